@@ -1,0 +1,20 @@
+# Links a library with exactly the names of a file visible, one name a line. Hidden
+# visibility alone is not enough: instantiated standard templates would still leak.
+function(kydatastructure_export_only target names_file)
+  file(STRINGS ${names_file} names REGEX "^[^#]")
+  set(plain "")
+  set(members "")
+  foreach(name IN LISTS names)
+    if(name MATCHES "::")
+      string(APPEND members "    \"${name}\";\n")
+    else()
+      string(APPEND plain "  ${name};\n")
+    endif()
+  endforeach()
+  set(script ${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
+  file(CONFIGURE OUTPUT ${script} @ONLY CONTENT
+    "{\nglobal:\n@plain@  extern \"C++\" {\n@members@  };\nlocal: *;\n};\n")
+  target_link_options(${target} PRIVATE LINKER:--version-script=${script})
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${names_file})
+endfunction()
