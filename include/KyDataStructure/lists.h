@@ -1,0 +1,676 @@
+/// \file
+/// Typed lists: one contract of 17 operations, 51 names, and the plain records
+/// that some of the lists hold.
+///
+/// A list is a plain ordered sequence. Nothing in it is sorted or unique by
+/// itself; order and doubles are what the callers made them.
+
+#ifndef KYDATASTRUCTURE_LISTS_H_
+#define KYDATASTRUCTURE_LISTS_H_
+
+#include <KyDataStructure/frame.h>
+
+namespace ZOL {
+
+/// The name under which queryInterface() of every list lends the address of its
+/// first element: an array of size() elements as the list stores them, valid
+/// until the list next changes, and null for a list that never held one.
+constexpr const char* kListData = "listData";
+
+/// The contract of every list. `Self` is the list's own interface, `T` what
+/// goes in and out: always by value.
+///
+/// What a list does with an element depends on its kind:
+///
+/// | element           | add, insertAt, setAt | at              | when it goes           |
+/// |-------------------|----------------------|-----------------|------------------------|
+/// | number, record    | copied               | a copy          | nothing, also pointers |
+/// | counted object    | kept; null is stored | lent            | one release()          |
+/// | text              | copied               | lent            | the copy is freed      |
+/// | raw memory (auto) | taken over           | lent            | freed                  |
+///
+/// A list answers queryInterface() with its own name and with kListData and
+/// nothing else. On purpose: it does not answer "IDmBaseObj".
+template <class Self, class T>
+class ListInterface : public IDmBaseObj {
+ public:
+  using Element = T;
+  /// True when `a` must come before `b`: a strict weak ordering.
+  using Compare = bool (*)(T a, T b);
+  using Match = bool (*)(T element, T key);
+
+  virtual long long size() = 0;
+  /// The element; the zero of `T` outside the range.
+  virtual T at(long long index) = 0;
+  /// Appends; always kSuccess.
+  virtual int add(T element) = 0;
+  /// Refused outside the range.
+  virtual int removeAt(long long index) = 0;
+  /// Inserts before the element at `index`. size() appends; beyond is refused.
+  virtual int insertAt(long long index, T element) = 0;
+  /// Replaces an element. On purpose: an index equal to size() is accepted. The
+  /// element is then taken into the slot behind the last, where at() does not
+  /// see it; size() stays, and it goes when the list next grows, shrinks or ends.
+  virtual int setAt(long long index, T element) = 0;
+  /// Drops all elements from first to last and keeps the array; always kSuccess.
+  virtual int clear() = 0;
+  /// Replaces the content by that of `other`, element by element as add() takes
+  /// them. Null, and a list of another kind of store, is refused; so is an
+  /// implementation of the interface that is not this library's. The list is
+  /// cleared before `other` is read: assigning a list to itself empties it.
+  virtual int assign(Self* other) = 0;
+  /// Inserts the elements of `other` before the element at `index`, in their
+  /// order. Refused as assign() and insertAt() refuse. On purpose: a list that is
+  /// inserted into itself is read, last position first, while it grows, so
+  /// `[a, b]` at 0 becomes `[b, b, a, b]`.
+  virtual int insertListAt(long long index, Self* other) = 0;
+  /// Sorts by `compare`, not stably. A null function is refused.
+  virtual int sort(Compare compare) = 0;
+  /// The first index for which `match(element, key)` is true, or -1; -1 for a
+  /// null function. The list must not be changed from `match` or `compare`.
+  virtual long long find(T key, Match match) = 0;
+
+ protected:
+  ~ListInterface() = default;
+};
+
+// Plain records. They are copied as bytes, and their sizes are contract: they
+// cross the boundary by value. The library reads _Property, _Range and _RectF
+// alone; the callers own the meaning of the others.
+
+struct _PointN {
+  std::int32_t x, y;
+};
+static_assert(sizeof(_PointN) == 8, "crosses the boundary by value");
+
+struct _SizeN {
+  std::int32_t width, height;
+};
+static_assert(sizeof(_SizeN) == 8, "crosses the boundary by value");
+
+struct _GradientColorComponent {
+  float position;
+  std::uint32_t color;
+};
+static_assert(sizeof(_GradientColorComponent) == 8, "crosses the boundary by value");
+
+struct _PointF {
+  double x, y;
+};
+static_assert(sizeof(_PointF) == 16, "crosses the boundary by value");
+
+struct _RectN {
+  std::int32_t left, top, right, bottom;
+};
+static_assert(sizeof(_RectN) == 16, "crosses the boundary by value");
+
+/// A span; both ends are -1 when there is none.
+struct _Range {
+  std::int64_t start = -1;
+  std::int64_t end = -1;
+};
+static_assert(sizeof(_Range) == 16, "crosses the boundary by value");
+
+struct _BkMarkInOutSection {
+  std::int64_t in, out;
+};
+static_assert(sizeof(_BkMarkInOutSection) == 16, "crosses the boundary by value");
+
+struct _RectF {
+  double left, top, right, bottom;
+};
+static_assert(sizeof(_RectF) == 32, "crosses the boundary by value");
+
+struct _RenderSegmentInfo {
+  std::int64_t start, end, sourceStart, sourceEnd;
+};
+static_assert(sizeof(_RenderSegmentInfo) == 32, "crosses the boundary by value");
+
+struct _PolygonF {
+  _PointF points[4];
+};
+static_assert(sizeof(_PolygonF) == 64, "crosses the boundary by value");
+
+/// _Property::type of an integer: signed 64 bits in the first 8 bytes of value.
+constexpr std::int32_t kPropertyInteger = 4;
+/// _Property::type of a text: at most 1023 bytes and a zero.
+constexpr std::int32_t kPropertyText = 7;
+
+/// One parameter, travelling by value. Its types are not those of ZolValue.
+struct _Property {
+  std::int32_t present;  ///< 0 for no value; a writer sets 1
+  std::int32_t type;     ///< kPropertyInteger or kPropertyText
+  char value[1024];
+};
+static_assert(sizeof(_Property) == 1032, "crosses the boundary by value");
+
+/// A key frame: a time, two handles and a parameter.
+struct KeyFrameValue {
+  std::int64_t time;
+  _PointF handleIn;
+  _PointF handleOut;
+  _Property property;
+};
+static_assert(sizeof(KeyFrameValue) == 1072, "crosses the boundary by value");
+
+class ZOLIntList : public ListInterface<ZOLIntList, int> {
+ public:
+  static constexpr const char* interfaceName = "ZOLIntList";
+
+ protected:
+  ~ZOLIntList() = default;
+};
+
+/// On purpose a list of `int`: any value is stored as it is, and nothing is folded
+/// to 0 or 1.
+class ZOLBoolList : public ListInterface<ZOLBoolList, int> {
+ public:
+  static constexpr const char* interfaceName = "ZOLBoolList";
+
+ protected:
+  ~ZOLBoolList() = default;
+};
+
+class ZOLFLOATList : public ListInterface<ZOLFLOATList, float> {
+ public:
+  static constexpr const char* interfaceName = "ZOLFLOATList";
+
+ protected:
+  ~ZOLFLOATList() = default;
+};
+
+class ZOLREALList : public ListInterface<ZOLREALList, double> {
+ public:
+  static constexpr const char* interfaceName = "ZOLREALList";
+
+ protected:
+  ~ZOLREALList() = default;
+};
+
+class ZOLLonglongList : public ListInterface<ZOLLonglongList, long long> {
+ public:
+  static constexpr const char* interfaceName = "ZOLLonglongList";
+
+ protected:
+  ~ZOLLonglongList() = default;
+};
+
+class ZOLULonglongList : public ListInterface<ZOLULonglongList, unsigned long long> {
+ public:
+  static constexpr const char* interfaceName = "ZOLULonglongList";
+
+ protected:
+  ~ZOLULonglongList() = default;
+};
+
+/// Integers the size of a pointer.
+class ZOLIntPtrList : public ListInterface<ZOLIntPtrList, unsigned long long> {
+ public:
+  static constexpr const char* interfaceName = "ZOLIntPtrList";
+
+ protected:
+  ~ZOLIntPtrList() = default;
+};
+
+/// Pointers that the list does not own.
+class ZOLVoidPtrList : public ListInterface<ZOLVoidPtrList, void*> {
+ public:
+  static constexpr const char* interfaceName = "ZOLVoidPtrList";
+
+ protected:
+  ~ZOLVoidPtrList() = default;
+};
+
+/// Pointers that the list does not own.
+class ZOLPByteList : public ListInterface<ZOLPByteList, unsigned char*> {
+ public:
+  static constexpr const char* interfaceName = "ZOLPByteList";
+
+ protected:
+  ~ZOLPByteList() = default;
+};
+
+/// Values with their texts: each way in or out makes a deep copy.
+class ZolValueList : public ListInterface<ZolValueList, ZolValue> {
+ public:
+  static constexpr const char* interfaceName = "ZolValueList";
+
+ protected:
+  ~ZolValueList() = default;
+};
+
+class ZOLPointNList : public ListInterface<ZOLPointNList, _PointN> {
+ public:
+  static constexpr const char* interfaceName = "ZOLPointNList";
+
+ protected:
+  ~ZOLPointNList() = default;
+};
+
+class ZOLSizeNList : public ListInterface<ZOLSizeNList, _SizeN> {
+ public:
+  static constexpr const char* interfaceName = "ZOLSizeNList";
+
+ protected:
+  ~ZOLSizeNList() = default;
+};
+
+class GradientColorList : public ListInterface<GradientColorList, _GradientColorComponent> {
+ public:
+  static constexpr const char* interfaceName = "GradientColorList";
+
+ protected:
+  ~GradientColorList() = default;
+};
+
+class ZOLPointFList : public ListInterface<ZOLPointFList, _PointF> {
+ public:
+  static constexpr const char* interfaceName = "ZOLPointFList";
+
+ protected:
+  ~ZOLPointFList() = default;
+};
+
+class ZOLRectNList : public ListInterface<ZOLRectNList, _RectN> {
+ public:
+  static constexpr const char* interfaceName = "ZOLRectNList";
+
+ protected:
+  ~ZOLRectNList() = default;
+};
+
+class ZOLRangeList : public ListInterface<ZOLRangeList, _Range> {
+ public:
+  static constexpr const char* interfaceName = "ZOLRangeList";
+
+ protected:
+  ~ZOLRangeList() = default;
+};
+
+class BkMarkInOutSectionList : public ListInterface<BkMarkInOutSectionList, _BkMarkInOutSection> {
+ public:
+  static constexpr const char* interfaceName = "BkMarkInOutSectionList";
+
+ protected:
+  ~BkMarkInOutSectionList() = default;
+};
+
+class ZOLRectFList : public ListInterface<ZOLRectFList, _RectF> {
+ public:
+  static constexpr const char* interfaceName = "ZOLRectFList";
+
+ protected:
+  ~ZOLRectFList() = default;
+};
+
+class RenderSegmentInfoList : public ListInterface<RenderSegmentInfoList, _RenderSegmentInfo> {
+ public:
+  static constexpr const char* interfaceName = "RenderSegmentInfoList";
+
+ protected:
+  ~RenderSegmentInfoList() = default;
+};
+
+class ZOLPolygonFList : public ListInterface<ZOLPolygonFList, _PolygonF> {
+ public:
+  static constexpr const char* interfaceName = "ZOLPolygonFList";
+
+ protected:
+  ~ZOLPolygonFList() = default;
+};
+
+class PropertyList : public ListInterface<PropertyList, _Property> {
+ public:
+  static constexpr const char* interfaceName = "PropertyList";
+
+ protected:
+  ~PropertyList() = default;
+};
+
+class KeyFrameValueList : public ListInterface<KeyFrameValueList, KeyFrameValue> {
+ public:
+  static constexpr const char* interfaceName = "KeyFrameValueList";
+
+ protected:
+  ~KeyFrameValueList() = default;
+};
+
+/// Copied texts. at() lends a text until that element or the list changes;
+/// compare and match are given zero-terminated texts. A null text is taken as
+/// the empty text.
+class ZOLPCharList : public ListInterface<ZOLPCharList, const char*> {
+ public:
+  static constexpr const char* interfaceName = "ZOLPCharList";
+
+ protected:
+  ~ZOLPCharList() = default;
+};
+
+/// Raw memory that the list owns, each block from `::operator new`. On purpose:
+/// assign() and insertListAt() take the bare pointers as add() does, so both
+/// lists then own the same blocks without knowing of each other; they are not
+/// for elements that both will drop. A block is freed also when taking it fails
+/// for want of memory.
+class ZOLAutoVoidPtrList : public ListInterface<ZOLAutoVoidPtrList, void*> {
+ public:
+  static constexpr const char* interfaceName = "ZOLAutoVoidPtrList";
+
+ protected:
+  ~ZOLAutoVoidPtrList() = default;
+};
+
+/// Any counted objects.
+class ZOLBaseObjectList : public ListInterface<ZOLBaseObjectList, IDmBaseObj*> {
+ public:
+  static constexpr const char* interfaceName = "ZOLBaseObjectList";
+
+ protected:
+  ~ZOLBaseObjectList() = default;
+};
+
+/// A graphics processor of the host's. The library has no implementation of it
+/// and only counts what callers put into an IGpuInfoList.
+class IGpuInfo : public IDmBaseObj {
+ public:
+  static constexpr const char* interfaceName = "IGpuInfo";
+
+ protected:
+  ~IGpuInfo() = default;
+};
+
+// Lists of counted objects. The element interfaces stand in the headers of their
+// subsystems.
+
+class IKyMaskInfoData;
+class IZolBGRData;
+class IZolBGRAData;
+class IZoEffectInfo;
+class IZolPluginInfo;
+class IFaceClusterInfo;
+class IKyLoraTextToImageHistoryInfo;
+class IKyVoiceDataInfo;
+class IKyScriptSceneInfo;
+class IKyScriptCharacterInfo;
+class IKyScriptEventSoundInfo;
+class IKyScriptCharactersIfInfo;
+class IKyScriptClipInfo;
+class IZolResSerializeInfo;
+class IZolSliceItem;
+class IZolDemensionsItem;
+class IZolKeyMatrixInfo;
+class IZolTextInfo;
+class IZolHighlightInfo;
+class IZolSmartCutClipInfo;
+class IZolMusicInfo;
+class IZolStoryboardInfo;
+class IZolSmartCutSearchResult;
+class IZolSmartCutSearchDimensionsResultItem;
+class IZolRoleSearchItemInfo;
+
+class IKyMaskInfoDataList : public ListInterface<IKyMaskInfoDataList, IKyMaskInfoData*> {
+ public:
+  static constexpr const char* interfaceName = "IKyMaskInfoDataList";
+
+ protected:
+  ~IKyMaskInfoDataList() = default;
+};
+
+class IZolBGRDataList : public ListInterface<IZolBGRDataList, IZolBGRData*> {
+ public:
+  static constexpr const char* interfaceName = "IZolBGRDataList";
+
+ protected:
+  ~IZolBGRDataList() = default;
+};
+
+class IZolBGRADataList : public ListInterface<IZolBGRADataList, IZolBGRAData*> {
+ public:
+  static constexpr const char* interfaceName = "IZolBGRADataList";
+
+ protected:
+  ~IZolBGRADataList() = default;
+};
+
+class IZoEffectInfoList : public ListInterface<IZoEffectInfoList, IZoEffectInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZoEffectInfoList";
+
+ protected:
+  ~IZoEffectInfoList() = default;
+};
+
+class IZolPluginInfoList : public ListInterface<IZolPluginInfoList, IZolPluginInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolPluginInfoList";
+
+ protected:
+  ~IZolPluginInfoList() = default;
+};
+
+class IFaceClusterInfoList : public ListInterface<IFaceClusterInfoList, IFaceClusterInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IFaceClusterInfoList";
+
+ protected:
+  ~IFaceClusterInfoList() = default;
+};
+
+class IKyLoraTextToImageHistoryInfoList : public ListInterface<IKyLoraTextToImageHistoryInfoList, IKyLoraTextToImageHistoryInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyLoraTextToImageHistoryInfoList";
+
+ protected:
+  ~IKyLoraTextToImageHistoryInfoList() = default;
+};
+
+class IKyVoiceDataInfoList : public ListInterface<IKyVoiceDataInfoList, IKyVoiceDataInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyVoiceDataInfoList";
+
+ protected:
+  ~IKyVoiceDataInfoList() = default;
+};
+
+class IKyScriptSceneInfoList : public ListInterface<IKyScriptSceneInfoList, IKyScriptSceneInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyScriptSceneInfoList";
+
+ protected:
+  ~IKyScriptSceneInfoList() = default;
+};
+
+class IKyScriptCharacterInfoList : public ListInterface<IKyScriptCharacterInfoList, IKyScriptCharacterInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyScriptCharacterInfoList";
+
+ protected:
+  ~IKyScriptCharacterInfoList() = default;
+};
+
+class IKyScriptEventSoundInfoList : public ListInterface<IKyScriptEventSoundInfoList, IKyScriptEventSoundInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyScriptEventSoundInfoList";
+
+ protected:
+  ~IKyScriptEventSoundInfoList() = default;
+};
+
+class IKyScriptCharactersIfInfoList : public ListInterface<IKyScriptCharactersIfInfoList, IKyScriptCharactersIfInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyScriptCharactersIfInfoList";
+
+ protected:
+  ~IKyScriptCharactersIfInfoList() = default;
+};
+
+class IKyScriptClipInfoList : public ListInterface<IKyScriptClipInfoList, IKyScriptClipInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IKyScriptClipInfoList";
+
+ protected:
+  ~IKyScriptClipInfoList() = default;
+};
+
+class IZolResSerializeInfoList : public ListInterface<IZolResSerializeInfoList, IZolResSerializeInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolResSerializeInfoList";
+
+ protected:
+  ~IZolResSerializeInfoList() = default;
+};
+
+class IZolSliceItemList : public ListInterface<IZolSliceItemList, IZolSliceItem*> {
+ public:
+  static constexpr const char* interfaceName = "IZolSliceItemList";
+
+ protected:
+  ~IZolSliceItemList() = default;
+};
+
+class IZolDemensionsItemList : public ListInterface<IZolDemensionsItemList, IZolDemensionsItem*> {
+ public:
+  static constexpr const char* interfaceName = "IZolDemensionsItemList";
+
+ protected:
+  ~IZolDemensionsItemList() = default;
+};
+
+class IZolKeyMatrixInfoList : public ListInterface<IZolKeyMatrixInfoList, IZolKeyMatrixInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolKeyMatrixInfoList";
+
+ protected:
+  ~IZolKeyMatrixInfoList() = default;
+};
+
+class IZolTextInfoList : public ListInterface<IZolTextInfoList, IZolTextInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolTextInfoList";
+
+ protected:
+  ~IZolTextInfoList() = default;
+};
+
+class IZolHighlightInfoList : public ListInterface<IZolHighlightInfoList, IZolHighlightInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolHighlightInfoList";
+
+ protected:
+  ~IZolHighlightInfoList() = default;
+};
+
+class IZolSmartCutClipInfoList : public ListInterface<IZolSmartCutClipInfoList, IZolSmartCutClipInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolSmartCutClipInfoList";
+
+ protected:
+  ~IZolSmartCutClipInfoList() = default;
+};
+
+class IZolMusicInfoList : public ListInterface<IZolMusicInfoList, IZolMusicInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolMusicInfoList";
+
+ protected:
+  ~IZolMusicInfoList() = default;
+};
+
+class IZolStoryboardInfoList : public ListInterface<IZolStoryboardInfoList, IZolStoryboardInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolStoryboardInfoList";
+
+ protected:
+  ~IZolStoryboardInfoList() = default;
+};
+
+class IZolSmartCutSearchResultList : public ListInterface<IZolSmartCutSearchResultList, IZolSmartCutSearchResult*> {
+ public:
+  static constexpr const char* interfaceName = "IZolSmartCutSearchResultList";
+
+ protected:
+  ~IZolSmartCutSearchResultList() = default;
+};
+
+class IZolSmartCutSearchDimensionsResultItemList : public ListInterface<IZolSmartCutSearchDimensionsResultItemList, IZolSmartCutSearchDimensionsResultItem*> {
+ public:
+  static constexpr const char* interfaceName = "IZolSmartCutSearchDimensionsResultItemList";
+
+ protected:
+  ~IZolSmartCutSearchDimensionsResultItemList() = default;
+};
+
+class IZolRoleSearchItemInfoList : public ListInterface<IZolRoleSearchItemInfoList, IZolRoleSearchItemInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IZolRoleSearchItemInfoList";
+
+ protected:
+  ~IZolRoleSearchItemInfoList() = default;
+};
+
+class IGpuInfoList : public ListInterface<IGpuInfoList, IGpuInfo*> {
+ public:
+  static constexpr const char* interfaceName = "IGpuInfoList";
+
+ protected:
+  ~IGpuInfoList() = default;
+};
+
+}  // namespace ZOL
+
+extern "C" {
+
+KYDATASTRUCTURE_API ZOL::ZOLIntList* createZOLIntList();
+KYDATASTRUCTURE_API ZOL::ZOLBoolList* createZOLBoolList();
+KYDATASTRUCTURE_API ZOL::ZOLFLOATList* createZOLFLOATList();
+KYDATASTRUCTURE_API ZOL::ZOLREALList* createZOLREALList();
+KYDATASTRUCTURE_API ZOL::ZOLLonglongList* createZOLLonglongList();
+KYDATASTRUCTURE_API ZOL::ZOLULonglongList* createZOLULonglongList();
+KYDATASTRUCTURE_API ZOL::ZOLIntPtrList* createZOLIntPtrList();
+KYDATASTRUCTURE_API ZOL::ZOLVoidPtrList* createZOLVoidPtrList();
+KYDATASTRUCTURE_API ZOL::ZOLPByteList* createZOLPByteList();
+KYDATASTRUCTURE_API ZOL::ZolValueList* createZolValueList();
+KYDATASTRUCTURE_API ZOL::ZOLPointNList* createZOLPointNList();
+KYDATASTRUCTURE_API ZOL::ZOLSizeNList* createZOLSizeNList();
+KYDATASTRUCTURE_API ZOL::GradientColorList* createGradientColorList();
+KYDATASTRUCTURE_API ZOL::ZOLPointFList* createZOLPointFList();
+KYDATASTRUCTURE_API ZOL::ZOLRectNList* createZOLRectNList();
+KYDATASTRUCTURE_API ZOL::ZOLRangeList* createZOLRangeList();
+KYDATASTRUCTURE_API ZOL::BkMarkInOutSectionList* createBkMarkInOutSectionList();
+KYDATASTRUCTURE_API ZOL::ZOLRectFList* createZOLRectFList();
+KYDATASTRUCTURE_API ZOL::RenderSegmentInfoList* createRenderSegmentInfoList();
+KYDATASTRUCTURE_API ZOL::ZOLPolygonFList* createZOLPolygonFList();
+KYDATASTRUCTURE_API ZOL::PropertyList* createPropertyList();
+KYDATASTRUCTURE_API ZOL::KeyFrameValueList* createKeyFrameValueList();
+KYDATASTRUCTURE_API ZOL::ZOLPCharList* createZOLPCharList();
+KYDATASTRUCTURE_API ZOL::ZOLAutoVoidPtrList* createZOLAutoVoidPtrList();
+KYDATASTRUCTURE_API ZOL::ZOLBaseObjectList* createZOLBaseObjectList();
+KYDATASTRUCTURE_API ZOL::IKyMaskInfoDataList* createIKyMaskInfoDataList();
+KYDATASTRUCTURE_API ZOL::IZolBGRDataList* createIZolBGRDataList();
+KYDATASTRUCTURE_API ZOL::IZolBGRADataList* createIZolBGRADataList();
+KYDATASTRUCTURE_API ZOL::IZoEffectInfoList* createIZoEffectInfoList();
+KYDATASTRUCTURE_API ZOL::IZolPluginInfoList* createIZolPluginInfoList();
+KYDATASTRUCTURE_API ZOL::IFaceClusterInfoList* createIFaceClusterInfoList();
+KYDATASTRUCTURE_API ZOL::IKyLoraTextToImageHistoryInfoList* createIKyLoraTextToImageHistoryInfoList();
+KYDATASTRUCTURE_API ZOL::IKyVoiceDataInfoList* createIKyVoiceDataInfoList();
+KYDATASTRUCTURE_API ZOL::IKyScriptSceneInfoList* createIKyScriptSceneInfoList();
+KYDATASTRUCTURE_API ZOL::IKyScriptCharacterInfoList* createIKyScriptCharacterInfoList();
+KYDATASTRUCTURE_API ZOL::IKyScriptEventSoundInfoList* createIKyScriptEventSoundInfoList();
+KYDATASTRUCTURE_API ZOL::IKyScriptCharactersIfInfoList* createIKyScriptCharactersIfInfoList();
+KYDATASTRUCTURE_API ZOL::IKyScriptClipInfoList* createIKyScriptClipInfoList();
+KYDATASTRUCTURE_API ZOL::IZolResSerializeInfoList* createIZolResSerializeInfoList();
+KYDATASTRUCTURE_API ZOL::IZolSliceItemList* createIZolSliceItemList();
+KYDATASTRUCTURE_API ZOL::IZolDemensionsItemList* createIZolDemensionsItemList();
+KYDATASTRUCTURE_API ZOL::IZolKeyMatrixInfoList* createIZolKeyMatrixInfoList();
+KYDATASTRUCTURE_API ZOL::IZolTextInfoList* createIZolTextInfoList();
+KYDATASTRUCTURE_API ZOL::IZolHighlightInfoList* createIZolHighlightInfoList();
+KYDATASTRUCTURE_API ZOL::IZolSmartCutClipInfoList* createIZolSmartCutClipInfoList();
+KYDATASTRUCTURE_API ZOL::IZolMusicInfoList* createIZolMusicInfoList();
+KYDATASTRUCTURE_API ZOL::IZolStoryboardInfoList* createIZolStoryboardInfoList();
+KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchResultList* createIZolSmartCutSearchResultList();
+KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchDimensionsResultItemList* createIZolSmartCutSearchDimensionsResultItemList();
+KYDATASTRUCTURE_API ZOL::IZolRoleSearchItemInfoList* createIZolRoleSearchItemInfoList();
+KYDATASTRUCTURE_API ZOL::IGpuInfoList* createIGpuInfoList();
+
+}  // extern "C"
+
+#endif  // KYDATASTRUCTURE_LISTS_H_
