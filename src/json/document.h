@@ -1,0 +1,199 @@
+// A parsed JSON text, and the one rule of what a member of which type counts as.
+//
+// A text is copied once into a private buffer and parsed there, in place, by
+// RapidJSON's iterative reader, so that no depth of nesting is too deep. What it
+// finds is laid down in document order on a tape of 16-byte nodes:
+//
+//   {"a": [1, "x"], "b": 2.5}
+//
+//   object(2)  key a  array(2)  number 1  string x  key b  number 2.5
+//
+// A container knows where it ends, so it is stepped over at once and nothing here
+// recurses. Numbers stay what they were in the text: an integer is read out of its
+// characters when somebody asks, and no number is ever made a double.
+
+#ifndef KYDATASTRUCTURE_JSON_DOCUMENT_H_
+#define KYDATASTRUCTURE_JSON_DOCUMENT_H_
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "json/names.h"
+
+namespace ZOL::json {
+
+enum class Kind : unsigned char { null, no, yes, number, string, key, array, object };
+
+struct Node {
+  std::uint64_t kindAndSize;  // Kind in the low byte; above it bytes of text or count of values
+  union {
+    const char* text;   // of a string, a key or a number; a string and a key end in a zero
+    std::uint64_t end;  // of a container: how many nodes it takes, itself among them
+  };
+
+  Kind kind() const { return static_cast<Kind>(kindAndSize & 0xFF); }
+  std::uint64_t size() const { return kindAndSize >> 8; }
+  const Node* next() const { return this + (kind() >= Kind::array ? end : 1); }
+};
+static_assert(sizeof(Node) == 16);
+
+class Elements;
+class Members;
+
+// A value somewhere in a document, or none. What is asked of a value of another
+// type, or of none, is answered as for an absent one.
+class Value {
+ public:
+  Value() = default;
+  explicit Value(const Node* node) : node_(node) {}
+
+  explicit operator bool() const { return node_ != nullptr; }
+  bool isString() const { return is(Kind::string); }
+  bool isArray() const { return is(Kind::array); }
+  bool isObject() const { return is(Kind::object); }
+  bool isNumber() const { return is(Kind::number); }
+
+  // A number without point and exponent that fits.
+  std::optional<long long> integer64() const;
+  std::optional<int> integer32() const;
+
+  // A string, zero-terminated, lent by the document; null for any other value. It
+  // counts up to its first zero byte.
+  const char* text() const { return isString() ? node_->text : nullptr; }
+
+  // How many values an array or object holds.
+  std::size_t size() const { return isContainer() ? static_cast<std::size_t>(node_->size()) : 0; }
+  Elements elements() const;
+  Members members() const;
+  // The first member of that name.
+  Value member(std::string_view name) const;
+
+  const Node* node() const { return node_; }
+
+ private:
+  bool is(Kind kind) const { return node_ && node_->kind() == kind; }
+  bool isContainer() const { return isArray() || isObject(); }
+
+  const Node* node_ = nullptr;
+};
+
+// for (Value element : array.elements())
+class Elements {
+ public:
+  class Iterator {
+   public:
+    explicit Iterator(const Node* node) : node_(node) {}
+    Value operator*() const { return Value(node_); }
+    Iterator& operator++() {
+      node_ = node_->next();
+      return *this;
+    }
+    bool operator!=(const Iterator& other) const { return node_ != other.node_; }
+
+   private:
+    const Node* node_;
+  };
+
+  Elements(const Node* begin, const Node* end) : begin_(begin), end_(end) {}
+  Iterator begin() const { return Iterator(begin_); }
+  Iterator end() const { return Iterator(end_); }
+
+ private:
+  const Node* begin_;
+  const Node* end_;
+};
+
+struct Member {
+  const Node* key;
+  Value value;
+
+  std::string_view name() const { return {key->text, static_cast<std::size_t>(key->size())}; }
+};
+
+// for (Member member : object.members())
+class Members {
+ public:
+  class Iterator {
+   public:
+    explicit Iterator(const Node* key) : key_(key) {}
+    Member operator*() const { return {key_, Value(key_ + 1)}; }
+    Iterator& operator++() {
+      key_ = (key_ + 1)->next();
+      return *this;
+    }
+    bool operator!=(const Iterator& other) const { return key_ != other.key_; }
+
+   private:
+    const Node* key_;
+  };
+
+  Members(const Node* begin, const Node* end) : begin_(begin), end_(end) {}
+  Iterator begin() const { return Iterator(begin_); }
+  Iterator end() const { return Iterator(end_); }
+
+ private:
+  const Node* begin_;
+  const Node* end_;
+};
+
+inline Elements Value::elements() const {
+  return isArray() ? Elements(node_ + 1, node_->next()) : Elements(nullptr, nullptr);
+}
+
+inline Members Value::members() const {
+  return isObject() ? Members(node_ + 1, node_->next()) : Members(nullptr, nullptr);
+}
+
+inline Value Value::member(std::string_view name) const {
+  for (const Member member : members()) {
+    if (member.name() == name) return member.value;
+  }
+  return Value();
+}
+
+// The members of an object by their places in a set of names, in one pass over the
+// object; of several with one name the first counts.
+template <std::size_t N>
+std::array<Value, N> sortIn(const Names<N>& names, Value object) {
+  std::array<Value, N> places;
+  for (const Member member : object.members()) {
+    const int place = names.find(member.name());
+    if (place >= 0 && !places[static_cast<std::size_t>(place)]) {
+      places[static_cast<std::size_t>(place)] = member.value;
+    }
+  }
+  return places;
+}
+
+enum class Grammar {
+  tolerant,  // comments, a trailing comma; what follows the root is not looked at
+  strict,    // plain JSON, nothing but white space behind the root
+};
+
+enum class ByteOrderMark { skipped, error };
+
+class Document {
+ public:
+  // Copies the text. `length` counts: a zero byte in it is a character like any other.
+  explicit Document(std::string_view text, Grammar grammar = Grammar::tolerant,
+                    ByteOrderMark mark = ByteOrderMark::skipped);
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+  ~Document();
+
+  // None for a text that is not accepted.
+  Value root() const { return root_; }
+
+ private:
+  std::unique_ptr<char[]> text_;
+  Node* tape_ = nullptr;
+  Value root_;
+};
+
+}  // namespace ZOL::json
+
+#endif  // KYDATASTRUCTURE_JSON_DOCUMENT_H_

@@ -1,0 +1,65 @@
+// A fixed set of names, made at compile time, in which a text is found by a look
+// and a comparison.
+
+#ifndef KYDATASTRUCTURE_JSON_NAMES_H_
+#define KYDATASTRUCTURE_JSON_NAMES_H_
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+namespace ZOL::json {
+
+template <std::size_t N>
+class Names {
+ public:
+  // The names must differ. The multiplier that gives each of them a slot of its own
+  // is searched for here, so a set that has none does not compile.
+  constexpr explicit Names(const std::array<std::string_view, N>& names) : names_(names) {
+    while (!fits()) multiplier_ = multiplier_ * 6364136223846793005U + 1442695040888963407U;
+  }
+
+  // The name's place in the array, or -1.
+  constexpr int find(std::string_view text) const {
+    const int place = slots_[slotOf(text)];
+    return place >= 0 && names_[static_cast<std::size_t>(place)] == text ? place : -1;
+  }
+
+ private:
+  static_assert(N <= 64, "places are kept in a byte, and the search is short");
+  static constexpr unsigned kBits = N <= 8 ? 6 : 9;
+
+  // The length and up to eight characters, from the back, where names differ most.
+  constexpr std::size_t slotOf(std::string_view text) const {
+    std::uint64_t word = text.size();
+    const std::size_t taken = text.size() < 8 ? text.size() : 8;
+    for (std::size_t i = text.size() - taken; i < text.size(); ++i) {
+      word = (word << 8) ^ (word >> 56) ^ static_cast<unsigned char>(text[i]);
+    }
+    return static_cast<std::size_t>((word * multiplier_) >> (64 - kBits));
+  }
+
+  constexpr bool fits() {
+    for (auto& slot : slots_) slot = -1;
+    for (std::size_t place = 0; place < N; ++place) {
+      signed char& slot = slots_[slotOf(names_[place])];
+      if (slot >= 0) return false;
+      slot = static_cast<signed char>(place);
+    }
+    return true;
+  }
+
+  std::array<std::string_view, N> names_;
+  std::array<signed char, std::size_t{1} << kBits> slots_{};
+  std::uint64_t multiplier_ = 0x9E3779B97F4A7C15U;
+};
+
+template <class... Texts>
+constexpr auto namesOf(const Texts&... texts) {
+  return Names<sizeof...(Texts)>({std::string_view(texts)...});
+}
+
+}  // namespace ZOL::json
+
+#endif  // KYDATASTRUCTURE_JSON_NAMES_H_

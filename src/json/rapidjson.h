@@ -1,0 +1,96 @@
+// The one place where RapidJSON's headers are included, and how they are set up:
+//
+// - under a namespace of our own, so that a host with another RapidJSON in another
+//   build of it cannot clash;
+// - with allocators that throw, as it does not look at what malloc answers;
+// - with sizes that are not cut to 32 bits;
+// - without its SSE2 code: that lets the control characters 0x1A to 0x1F pass in a
+//   string. Plain runs are skipped eight bytes at a time here instead.
+
+#ifndef KYDATASTRUCTURE_JSON_RAPIDJSON_H_
+#define KYDATASTRUCTURE_JSON_RAPIDJSON_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <new>
+
+#define RAPIDJSON_NAMESPACE ZOL::rapidjson
+#define RAPIDJSON_NAMESPACE_BEGIN namespace ZOL::rapidjson {
+#define RAPIDJSON_NAMESPACE_END }
+#define RAPIDJSON_NO_SIZETYPEDEFINE
+#define RAPIDJSON_ASSERT(condition) static_cast<void>(0)
+
+namespace ZOL::rapidjson {
+using SizeType = std::size_t;
+}
+
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/reader.h>
+#include <rapidjson/stringbuffer.h>
+#include <rapidjson/writer.h>
+
+namespace ZOL::json {
+
+// Memory for RapidJSON's stacks and for ours. Grows in place where it can.
+class ThrowingAllocator {
+ public:
+  static const bool kNeedFree = true;
+
+  // The names are those that RapidJSON calls.
+  static void* Malloc(std::size_t size) { return Realloc(nullptr, 0, size); }
+  static void* Realloc(void* memory, std::size_t /*oldSize*/, std::size_t newSize) {
+    if (newSize == 0) {
+      Free(memory);
+      return nullptr;
+    }
+    void* const grown = std::realloc(memory, newSize);
+    if (!grown) throw std::bad_alloc();
+    return grown;
+  }
+  static void Free(void* memory) { std::free(memory); }
+};
+
+using Encoding = rapidjson::UTF8<>;
+using Reader = rapidjson::GenericReader<Encoding, Encoding, ThrowingAllocator>;
+
+// How many readable bytes a text must have behind its terminating zero.
+constexpr std::size_t kScanPadding = sizeof(std::uint64_t);
+
+// True if one of eight bytes ends a run of plain characters: a quotation mark, a
+// backslash or a control character.
+inline bool endsPlainRun(std::uint64_t bytes) {
+  constexpr std::uint64_t ones = 0x0101010101010101U;
+  constexpr std::uint64_t tops = 0x8080808080808080U;
+  const std::uint64_t quote = bytes ^ (ones * '"');
+  const std::uint64_t backslash = bytes ^ (ones * '\\');
+  const std::uint64_t below = (bytes - ones * 0x20) & ~bytes;
+  return ((below | ((quote - ones) & ~quote) | ((backslash - ones) & ~backslash)) & tops) != 0;
+}
+
+}  // namespace ZOL::json
+
+namespace ZOL::rapidjson {
+
+// RapidJSON's own hook for skipping the plain characters of a string in place.
+template <>
+template <>
+inline void json::Reader::ScanCopyUnescapedString(InsituStringStream& in, InsituStringStream&) {
+  char* from = in.src_;
+  char* to = in.dst_;
+  for (;;) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, from, sizeof(bytes));
+    if (json::endsPlainRun(bytes)) break;
+    std::memcpy(to, &bytes, sizeof(bytes));
+    from += sizeof(bytes);
+    to += sizeof(bytes);
+  }
+  in.src_ = from;
+  in.dst_ = to;
+}
+
+}  // namespace ZOL::rapidjson
+
+#endif  // KYDATASTRUCTURE_JSON_RAPIDJSON_H_
