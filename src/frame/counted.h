@@ -20,7 +20,10 @@ namespace ZOL {
 
 // A base that is taken virtually.
 template <class Base>
-class Virtually : public virtual Base {};
+class Virtually : public virtual Base {
+ protected:
+  ~Virtually() = default;
+};
 
 // Inherits the bases in the order given, one of them the counting mixin, and
 // forwards the five counter operations to it; nothing else.

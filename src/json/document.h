@@ -64,6 +64,11 @@ class Value {
   // A string, zero-terminated, lent by the document; null for any other value. It
   // counts up to its first zero byte.
   const char* text() const { return isString() ? node_->text : nullptr; }
+  // The same with all its bytes, zero bytes among them; empty for any other value.
+  std::string_view bytes() const {
+    return isString() ? std::string_view(node_->text, static_cast<std::size_t>(node_->size()))
+                      : std::string_view();
+  }
 
   // How many values an array or object holds.
   std::size_t size() const { return isContainer() ? static_cast<std::size_t>(node_->size()) : 0; }
