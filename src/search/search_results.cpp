@@ -1,0 +1,132 @@
+// Carriers of search results: results by dimension, their items, and roles. Fields are
+// declared so that they end in the right order, last one first.
+
+#include <KyDataStructure/search.h>
+
+#include <map>
+
+#include "frame/counted.h"
+#include "frame/fields.h"
+#include "frame/ref.h"
+
+namespace ZOL {
+namespace {
+
+class ZolRoleSearchItemInfo final
+    : public Counted<Virtually<IZolRoleSearchItemInfo>, Virtually<RefCnt<void>>> {
+ public:
+  void* queryInterface(const char* name) override {
+    return answer<IZolRoleSearchItemInfo, IDmBaseObj>(this, name);
+  }
+
+  const char* roleText() override { return roleText_.get(); }
+  int setRoleText(const char* text) override { return roleText_.set(text); }
+  IZolMediaData* roleImage() override { return roleImage_.get(); }
+  int setRoleImage(IZolMediaData* image) override { return roleImage_.setUnlessNull(image); }
+
+ private:
+  TextRefusingNull roleText_;
+  Kept<IZolMediaData> roleImage_;
+};
+
+class ZolSmartCutSearchDimensionsResultItem final
+    : public Counted<Virtually<IZolSmartCutSearchDimensionsResultItem>, Virtually<RefCnt<void>>> {
+ public:
+  void* queryInterface(const char* name) override {
+    return answer<IZolSmartCutSearchDimensionsResultItem, IDmBaseObj>(this, name);
+  }
+
+  const char* itemText() override { return itemText_.get(); }
+  int setItemText(const char* text) override { return itemText_.set(text); }
+  IZolMediaData* itemImage() override { return itemImage_.get(); }
+  int setItemImage(IZolMediaData* image) override { return itemImage_.setUnlessNull(image); }
+  ZOLRangeList* rangeList() override { return rangeList_.get(); }
+
+ private:
+  TextRefusingNull itemText_;
+  Kept<IZolMediaData> itemImage_;
+  OwnedList<ZOLRangeList, createZOLRangeList> rangeList_;
+};
+
+class ZolSmartCutSearchDimensionsResult final
+    : public Counted<Virtually<IZolSmartCutSearchDimensionsResult>, Virtually<RefCnt<void>>> {
+ public:
+  void* queryInterface(const char* name) override {
+    return answer<IZolSmartCutSearchDimensionsResult, IDmBaseObj>(this, name);
+  }
+
+  int dimensionValue() override { return dimensionValue_.get(); }
+  int setDimensionValue(int value) override { return dimensionValue_.set(value); }
+  IZolSmartCutSearchDimensionsResultItemList* resultItemList() override {
+    return resultItemList_.get();
+  }
+
+ private:
+  Plain<int> dimensionValue_;
+  OwnedList<IZolSmartCutSearchDimensionsResultItemList,
+            createIZolSmartCutSearchDimensionsResultItemList>
+      resultItemList_;
+};
+
+class ZolSmartCutSearchResult final
+    : public Counted<RefCnt<void>, Virtually<IZolSmartCutSearchResult>> {
+ public:
+  void* queryInterface(const char* name) override {
+    return answer<IZolSmartCutSearchResult, IDmBaseObj>(this, name);
+  }
+
+  IZolRoleSearchItemInfoList* roleInfoList() override { return roleInfoList_.get(); }
+  int setRoleInfoList(IZolRoleSearchItemInfoList* list) override {
+    return roleInfoList_.setUnlessNull(list);
+  }
+  const char* firstText() override { return firstText_.get(); }
+  int setFirstText(const char* text) override { return firstText_.set(text); }
+  const char* secondText() override { return secondText_.get(); }
+  int setSecondText(const char* text) override { return secondText_.set(text); }
+  const char* thirdText() override { return thirdText_.get(); }
+  int setThirdText(const char* text) override { return thirdText_.set(text); }
+
+  int getDimensionKeys(ZOLIntList* keys) override {
+    if (!keys) return kRefused;
+    keys->clear();
+    for (const auto& [key, result] : dimensionResults_) keys->add(key);
+    return kSuccess;
+  }
+
+  int setDimensionResult(int key, IZolSmartCutSearchDimensionsResult* result) override {
+    return result ? dimensionResults_[key].set(result) : kRefused;
+  }
+
+  int removeDimensionResult(int key) override {
+    dimensionResults_.erase(key);
+    return kSuccess;
+  }
+
+  IZolSmartCutSearchDimensionsResult* dimensionResult(int key) override {
+    const auto found = dimensionResults_.find(key);
+    return found != dimensionResults_.end() ? found->second.get() : nullptr;
+  }
+
+ private:
+  Kept<IZolRoleSearchItemInfoList> roleInfoList_;
+  TextRefusingNull firstText_;
+  TextRefusingNull secondText_;
+  TextRefusingNull thirdText_;
+  std::map<int, Kept<IZolSmartCutSearchDimensionsResult>> dimensionResults_;
+};
+
+}  // namespace
+}  // namespace ZOL
+
+ZOL::IZolRoleSearchItemInfo* createRoleSearchItemInfo() {
+  return ZOL::make<ZOL::ZolRoleSearchItemInfo>();
+}
+ZOL::IZolSmartCutSearchDimensionsResultItem* createSmartCutSearchDimensionsResultItem() {
+  return ZOL::make<ZOL::ZolSmartCutSearchDimensionsResultItem>();
+}
+ZOL::IZolSmartCutSearchDimensionsResult* createSmartCutSearchDimensionsResult() {
+  return ZOL::make<ZOL::ZolSmartCutSearchDimensionsResult>();
+}
+ZOL::IZolSmartCutSearchResult* createSmartCutSearchResult() {
+  return ZOL::make<ZOL::ZolSmartCutSearchResult>();
+}
