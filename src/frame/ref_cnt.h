@@ -86,26 +86,20 @@ class RefCnt<void> {
   virtual int release() {
     if (!block_) return 0;
     const int left = block_->strong.decrement();
-    if (left != 0) return left;
-    if (destroyed_.load(std::memory_order_relaxed) != 0) return 0;
-    destroyed_.exchange(1);
-    if (IReleaseHook* const hook = releaseHook_.load()) hook->onLastRelease();
-    delete this;
-    return 0;
+    if (left == 0) end();
+    return left;
   }
 
   virtual int refCount() { return block_ ? block_->strong.value() : 0; }
   virtual IReleaseHook* releaseHook() { return releaseHook_.load(); }
   virtual void setReleaseHook(IReleaseHook* hook) { releaseHook_.exchange(hook); }
 
-  virtual ~RefCnt() {
-    CounterBlock* const block = block_;
-    block_ = nullptr;
-    if (block->holds.value() <= 0) return;
-    if (block->holds.takeOne() == 0 && block->strong.value() == 0) delete block;
-  }
+  virtual ~RefCnt();
 
  private:
+  // Once and no more: the hook, while the object is whole, and then its destruction.
+  void end();
+
   CounterBlock* block_;  // null only once destruction has begun
   std::atomic<unsigned char> destroyed_{0};
   std::atomic<IReleaseHook*> releaseHook_{nullptr};

@@ -9,8 +9,8 @@ namespace {
 // The text of every empty string value: one address for all, never freed.
 constexpr char kEmptyText[] = "";
 
-constexpr _ZolValueUnion noValue() {
-  _ZolValueUnion none{};
+_ZolValueUnion noValue() {
+  _ZolValueUnion none;
   none.longInteger = 0;
   return none;
 }

@@ -30,12 +30,14 @@ class Names {
   static_assert(N <= 64, "places are kept in a byte, and the search is short");
   static constexpr unsigned kBits = N <= 8 ? 6 : 9;
 
-  // The length and up to eight characters, from the back, where names differ most.
+  // Made of the length and three characters from the rear half, where names differ
+  // most. Names that are alike in all of these would need another look.
   constexpr std::size_t slotOf(std::string_view text) const {
     std::uint64_t word = text.size();
-    const std::size_t taken = text.size() < 8 ? text.size() : 8;
-    for (std::size_t i = text.size() - taken; i < text.size(); ++i) {
-      word = (word << 8) ^ (word >> 56) ^ static_cast<unsigned char>(text[i]);
+    if (!text.empty()) {
+      word = (word << 8) ^ static_cast<unsigned char>(text[text.size() / 2]);
+      word = (word << 8) ^ static_cast<unsigned char>(text[text.size() * 3 / 4]);
+      word = (word << 8) ^ static_cast<unsigned char>(text[text.size() - 1]);
     }
     return static_cast<std::size_t>((word * multiplier_) >> (64 - kBits));
   }

@@ -58,15 +58,16 @@ using Reader = rapidjson::GenericReader<Encoding, Encoding, ThrowingAllocator>;
 // How many readable bytes a text must have behind its terminating zero.
 constexpr std::size_t kScanPadding = sizeof(std::uint64_t);
 
-// True if one of eight bytes ends a run of plain characters: a quotation mark, a
-// backslash or a control character.
-inline bool endsPlainRun(std::uint64_t bytes) {
+// The bytes, of eight, that end a run of plain characters: a quotation mark, a backslash
+// or a control character. Their top bits are set; above the first of them, in order of
+// arithmetic, others may be, too.
+inline std::uint64_t endsOfPlainRun(std::uint64_t bytes) {
   constexpr std::uint64_t ones = 0x0101010101010101U;
   constexpr std::uint64_t tops = 0x8080808080808080U;
   const std::uint64_t quote = bytes ^ (ones * '"');
   const std::uint64_t backslash = bytes ^ (ones * '\\');
   const std::uint64_t below = (bytes - ones * 0x20) & ~bytes;
-  return ((below | ((quote - ones) & ~quote) | ((backslash - ones) & ~backslash)) & tops) != 0;
+  return (below | ((quote - ones) & ~quote) | ((backslash - ones) & ~backslash)) & tops;
 }
 
 }  // namespace ZOL::json
@@ -82,7 +83,17 @@ inline void json::Reader::ScanCopyUnescapedString(InsituStringStream& in, Insitu
   for (;;) {
     std::uint64_t bytes = 0;
     std::memcpy(&bytes, from, sizeof(bytes));
-    if (json::endsPlainRun(bytes)) break;
+    const std::uint64_t ends = json::endsOfPlainRun(bytes);
+    if (ends != 0) {
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+      // The first in memory is the first in order of arithmetic: up to there at once.
+      const auto plain = static_cast<std::size_t>(__builtin_ctzll(ends)) / 8;
+      if (to != from) std::memmove(to, from, plain);
+      from += plain;
+      to += plain;
+#endif
+      break;
+    }
     std::memcpy(to, &bytes, sizeof(bytes));
     from += sizeof(bytes);
     to += sizeof(bytes);

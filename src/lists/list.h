@@ -17,7 +17,7 @@
 namespace ZOL {
 
 template <class Interface, class Store>
-class List : public Counted<Interface, Store, RefCnt<void>> {
+class List final : public Counted<Interface, Store, RefCnt<void>> {
   using T = typename Interface::Element;
   using Item = typename Store::Item;
   using Compare = typename Interface::Compare;
@@ -30,19 +30,19 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
     return answer<Interface>(this, name);
   }
 
-  long long size() final { return static_cast<long long>(Store::items.size()); }
+  long long size() override { return static_cast<long long>(Store::items.size()); }
 
-  T at(long long index) final {
+  T at(long long index) override {
     return holds(index) ? T(Store::lend(Store::items[place(index)])) : T();
   }
 
-  int add(T element) final {
+  int add(T element) override {
     Store::items.push_back(Store::take(element));
     behind_.reset();
     return kSuccess;
   }
 
-  int removeAt(long long index) final {
+  int removeAt(long long index) override {
     if (!holds(index)) return kRefused;
     const auto position = Store::items.begin() + index;
     if constexpr (kPlain) {
@@ -56,7 +56,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
     return kSuccess;
   }
 
-  int insertAt(long long index, T element) final {
+  int insertAt(long long index, T element) override {
     if (!mayStandAt(index)) return kRefused;
     Store::items.insert(Store::items.begin() + index, Store::take(element));
     behind_.reset();
@@ -64,7 +64,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
   }
 
   // On purpose with the bound of insertAt().
-  int setAt(long long index, T element) final {
+  int setAt(long long index, T element) override {
     if (!mayStandAt(index)) return kRefused;
     if (holds(index)) {
       // The old one goes when the new one is in its place.
@@ -75,7 +75,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
     return kSuccess;
   }
 
-  int clear() final {
+  int clear() override {
     // The elements go, first to last, when the list is empty already; its array
     // stays, unless somebody who was called back has filled the list anew.
     std::vector<Item> gone;
@@ -88,7 +88,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
 
   // On purpose cleared before `other` is read, so that a list assigned to itself
   // is empty afterwards.
-  int assign(Interface* other) final {
+  int assign(Interface* other) override {
     const Store* const source = own<Store>(other);
     if (!source) return kRefused;
     clear();
@@ -99,7 +99,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
     return kSuccess;
   }
 
-  int insertListAt(long long index, Interface* other) final {
+  int insertListAt(long long index, Interface* other) override {
     const Store* const source = own<Store>(other);
     if (!source || !mayStandAt(index)) return kRefused;
     std::vector<Item> taken;
@@ -115,7 +115,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
     return kSuccess;
   }
 
-  int sort(Compare compare) final {
+  int sort(Compare compare) override {
     if (!compare) return kRefused;
     if constexpr (kPlain) {
       std::sort(Store::items.begin(), Store::items.end(), compare);
@@ -127,7 +127,7 @@ class List : public Counted<Interface, Store, RefCnt<void>> {
     return kSuccess;
   }
 
-  long long find(T key, Match match) final {
+  long long find(T key, Match match) override {
     if (!match) return -1;
     for (long long index = 0; index < size(); ++index) {
       if (match(at(index), key)) return index;

@@ -11,35 +11,35 @@
 namespace ZOL {
 namespace {
 
-class _ZOLPCharList final : public List<ZOLPCharList, ZOLStringTemplateList<const char*>> {};
-class _ZOLAutoVoidPtrList final : public List<ZOLAutoVoidPtrList, ZOLSharePtrTemplateList<void*>> {};
-class _ZOLBaseObjectList final : public List<ZOLBaseObjectList, ZOLObjectTemplateList<IDmBaseObj>> {};
-class _IKyMaskInfoDataList final : public List<IKyMaskInfoDataList, ZOLObjectTemplateList<IKyMaskInfoData>> {};
-class _IZolBGRDataList final : public List<IZolBGRDataList, ZOLObjectTemplateList<IZolBGRData>> {};
-class _IZolBGRADataList final : public List<IZolBGRADataList, ZOLObjectTemplateList<IZolBGRAData>> {};
-class _IZoEffectInfoList final : public List<IZoEffectInfoList, ZOLObjectTemplateList<IZoEffectInfo>> {};
-class _IZolPluginInfoList final : public List<IZolPluginInfoList, ZOLObjectTemplateList<IZolPluginInfo>> {};
-class _IFaceClusterInfoList final : public List<IFaceClusterInfoList, ZOLObjectTemplateList<IFaceClusterInfo>> {};
-class _IKyLoraTextToImageHistoryInfoList final : public List<IKyLoraTextToImageHistoryInfoList, ZOLObjectTemplateList<IKyLoraTextToImageHistoryInfo>> {};
-class _IKyVoiceDataInfoList final : public List<IKyVoiceDataInfoList, ZOLObjectTemplateList<IKyVoiceDataInfo>> {};
-class _IKyScriptSceneInfoList final : public List<IKyScriptSceneInfoList, ZOLObjectTemplateList<IKyScriptSceneInfo>> {};
-class _IKyScriptCharacterInfoList final : public List<IKyScriptCharacterInfoList, ZOLObjectTemplateList<IKyScriptCharacterInfo>> {};
-class _IKyScriptEventSoundInfoList final : public List<IKyScriptEventSoundInfoList, ZOLObjectTemplateList<IKyScriptEventSoundInfo>> {};
-class _IKyScriptCharactersIfInfoList final : public List<IKyScriptCharactersIfInfoList, ZOLObjectTemplateList<IKyScriptCharactersIfInfo>> {};
-class _IKyScriptClipInfoList final : public List<IKyScriptClipInfoList, ZOLObjectTemplateList<IKyScriptClipInfo>> {};
-class _IZolResSerializeInfoList final : public List<IZolResSerializeInfoList, ZOLObjectTemplateList<IZolResSerializeInfo>> {};
-class _IZolSliceItemList final : public List<IZolSliceItemList, ZOLObjectTemplateList<IZolSliceItem>> {};
-class _IZolDemensionsItemList final : public List<IZolDemensionsItemList, ZOLObjectTemplateList<IZolDemensionsItem>> {};
-class _IZolKeyMatrixInfoList final : public List<IZolKeyMatrixInfoList, ZOLObjectTemplateList<IZolKeyMatrixInfo>> {};
-class _IZolTextInfoList final : public List<IZolTextInfoList, ZOLObjectTemplateList<IZolTextInfo>> {};
-class _IZolHighlightInfoList final : public List<IZolHighlightInfoList, ZOLObjectTemplateList<IZolHighlightInfo>> {};
-class _IZolSmartCutClipInfoList final : public List<IZolSmartCutClipInfoList, ZOLObjectTemplateList<IZolSmartCutClipInfo>> {};
-class _IZolMusicInfoList final : public List<IZolMusicInfoList, ZOLObjectTemplateList<IZolMusicInfo>> {};
-class _IZolStoryboardInfoList final : public List<IZolStoryboardInfoList, ZOLObjectTemplateList<IZolStoryboardInfo>> {};
-class _IZolSmartCutSearchResultList final : public List<IZolSmartCutSearchResultList, ZOLObjectTemplateList<IZolSmartCutSearchResult>> {};
-class _IZolSmartCutSearchDimensionsResultItemList final : public List<IZolSmartCutSearchDimensionsResultItemList, ZOLObjectTemplateList<IZolSmartCutSearchDimensionsResultItem>> {};
-class _IZolRoleSearchItemInfoList final : public List<IZolRoleSearchItemInfoList, ZOLObjectTemplateList<IZolRoleSearchItemInfo>> {};
-class _IGpuInfoList final : public List<IGpuInfoList, ZOLObjectTemplateList<IGpuInfo>> {};
+using _ZOLPCharList = List<ZOLPCharList, ZOLStringTemplateList<const char*>>;
+using _ZOLAutoVoidPtrList = List<ZOLAutoVoidPtrList, ZOLSharePtrTemplateList<void*>>;
+using _ZOLBaseObjectList = List<ZOLBaseObjectList, ZOLObjectTemplateList<IDmBaseObj>>;
+using _IKyMaskInfoDataList = List<IKyMaskInfoDataList, ZOLObjectTemplateList<IKyMaskInfoData>>;
+using _IZolBGRDataList = List<IZolBGRDataList, ZOLObjectTemplateList<IZolBGRData>>;
+using _IZolBGRADataList = List<IZolBGRADataList, ZOLObjectTemplateList<IZolBGRAData>>;
+using _IZoEffectInfoList = List<IZoEffectInfoList, ZOLObjectTemplateList<IZoEffectInfo>>;
+using _IZolPluginInfoList = List<IZolPluginInfoList, ZOLObjectTemplateList<IZolPluginInfo>>;
+using _IFaceClusterInfoList = List<IFaceClusterInfoList, ZOLObjectTemplateList<IFaceClusterInfo>>;
+using _IKyLoraTextToImageHistoryInfoList = List<IKyLoraTextToImageHistoryInfoList, ZOLObjectTemplateList<IKyLoraTextToImageHistoryInfo>>;
+using _IKyVoiceDataInfoList = List<IKyVoiceDataInfoList, ZOLObjectTemplateList<IKyVoiceDataInfo>>;
+using _IKyScriptSceneInfoList = List<IKyScriptSceneInfoList, ZOLObjectTemplateList<IKyScriptSceneInfo>>;
+using _IKyScriptCharacterInfoList = List<IKyScriptCharacterInfoList, ZOLObjectTemplateList<IKyScriptCharacterInfo>>;
+using _IKyScriptEventSoundInfoList = List<IKyScriptEventSoundInfoList, ZOLObjectTemplateList<IKyScriptEventSoundInfo>>;
+using _IKyScriptCharactersIfInfoList = List<IKyScriptCharactersIfInfoList, ZOLObjectTemplateList<IKyScriptCharactersIfInfo>>;
+using _IKyScriptClipInfoList = List<IKyScriptClipInfoList, ZOLObjectTemplateList<IKyScriptClipInfo>>;
+using _IZolResSerializeInfoList = List<IZolResSerializeInfoList, ZOLObjectTemplateList<IZolResSerializeInfo>>;
+using _IZolSliceItemList = List<IZolSliceItemList, ZOLObjectTemplateList<IZolSliceItem>>;
+using _IZolDemensionsItemList = List<IZolDemensionsItemList, ZOLObjectTemplateList<IZolDemensionsItem>>;
+using _IZolKeyMatrixInfoList = List<IZolKeyMatrixInfoList, ZOLObjectTemplateList<IZolKeyMatrixInfo>>;
+using _IZolTextInfoList = List<IZolTextInfoList, ZOLObjectTemplateList<IZolTextInfo>>;
+using _IZolHighlightInfoList = List<IZolHighlightInfoList, ZOLObjectTemplateList<IZolHighlightInfo>>;
+using _IZolSmartCutClipInfoList = List<IZolSmartCutClipInfoList, ZOLObjectTemplateList<IZolSmartCutClipInfo>>;
+using _IZolMusicInfoList = List<IZolMusicInfoList, ZOLObjectTemplateList<IZolMusicInfo>>;
+using _IZolStoryboardInfoList = List<IZolStoryboardInfoList, ZOLObjectTemplateList<IZolStoryboardInfo>>;
+using _IZolSmartCutSearchResultList = List<IZolSmartCutSearchResultList, ZOLObjectTemplateList<IZolSmartCutSearchResult>>;
+using _IZolSmartCutSearchDimensionsResultItemList = List<IZolSmartCutSearchDimensionsResultItemList, ZOLObjectTemplateList<IZolSmartCutSearchDimensionsResultItem>>;
+using _IZolRoleSearchItemInfoList = List<IZolRoleSearchItemInfoList, ZOLObjectTemplateList<IZolRoleSearchItemInfo>>;
+using _IGpuInfoList = List<IGpuInfoList, ZOLObjectTemplateList<IGpuInfo>>;
 
 }  // namespace
 }  // namespace ZOL

@@ -9,18 +9,18 @@
 namespace ZOL {
 namespace {
 
-class _ZOLPointNList final : public List<ZOLPointNList, ZOLTemplateList<_PointN>> {};
-class _ZOLSizeNList final : public List<ZOLSizeNList, ZOLTemplateList<_SizeN>> {};
-class _GradientColorList final : public List<GradientColorList, ZOLTemplateList<_GradientColorComponent>> {};
-class _ZOLPointFList final : public List<ZOLPointFList, ZOLTemplateList<_PointF>> {};
-class _ZOLRectNList final : public List<ZOLRectNList, ZOLTemplateList<_RectN>> {};
-class _ZOLRangeList final : public List<ZOLRangeList, ZOLTemplateList<_Range>> {};
-class _BkMarkInOutSectionList final : public List<BkMarkInOutSectionList, ZOLTemplateList<_BkMarkInOutSection>> {};
-class _ZOLRectFList final : public List<ZOLRectFList, ZOLTemplateList<_RectF>> {};
-class _RenderSegmentInfoList final : public List<RenderSegmentInfoList, ZOLTemplateList<_RenderSegmentInfo>> {};
-class _ZOLPolygonFList final : public List<ZOLPolygonFList, ZOLTemplateList<_PolygonF>> {};
-class _PropertyList final : public List<PropertyList, ZOLTemplateList<_Property>> {};
-class _KeyFrameValueList final : public List<KeyFrameValueList, ZOLTemplateList<KeyFrameValue>> {};
+using _ZOLPointNList = List<ZOLPointNList, ZOLTemplateList<_PointN>>;
+using _ZOLSizeNList = List<ZOLSizeNList, ZOLTemplateList<_SizeN>>;
+using _GradientColorList = List<GradientColorList, ZOLTemplateList<_GradientColorComponent>>;
+using _ZOLPointFList = List<ZOLPointFList, ZOLTemplateList<_PointF>>;
+using _ZOLRectNList = List<ZOLRectNList, ZOLTemplateList<_RectN>>;
+using _ZOLRangeList = List<ZOLRangeList, ZOLTemplateList<_Range>>;
+using _BkMarkInOutSectionList = List<BkMarkInOutSectionList, ZOLTemplateList<_BkMarkInOutSection>>;
+using _ZOLRectFList = List<ZOLRectFList, ZOLTemplateList<_RectF>>;
+using _RenderSegmentInfoList = List<RenderSegmentInfoList, ZOLTemplateList<_RenderSegmentInfo>>;
+using _ZOLPolygonFList = List<ZOLPolygonFList, ZOLTemplateList<_PolygonF>>;
+using _PropertyList = List<PropertyList, ZOLTemplateList<_Property>>;
+using _KeyFrameValueList = List<KeyFrameValueList, ZOLTemplateList<KeyFrameValue>>;
 
 }  // namespace
 }  // namespace ZOL

@@ -9,16 +9,16 @@
 namespace ZOL {
 namespace {
 
-class _ZOLIntList final : public List<ZOLIntList, ZOLTemplateList<int>> {};
-class _ZOLBoolList final : public List<ZOLBoolList, ZOLTemplateList<int>> {};
-class _ZOLFLOATList final : public List<ZOLFLOATList, ZOLTemplateList<float>> {};
-class _ZOLREALList final : public List<ZOLREALList, ZOLTemplateList<double>> {};
-class _ZOLLonglongList final : public List<ZOLLonglongList, ZOLTemplateList<long long>> {};
-class _ZOLULonglongList final : public List<ZOLULonglongList, ZOLTemplateList<unsigned long long>> {};
-class _ZOLIntPtrList final : public List<ZOLIntPtrList, ZOLTemplateList<unsigned long long>> {};
-class _ZOLVoidPtrList final : public List<ZOLVoidPtrList, ZOLTemplateList<void*>> {};
-class _ZOLPByteList final : public List<ZOLPByteList, ZOLTemplateList<unsigned char*>> {};
-class _ZolValueList final : public List<ZolValueList, ZOLTemplateList<ZolValue>> {};
+using _ZOLIntList = List<ZOLIntList, ZOLTemplateList<int>>;
+using _ZOLBoolList = List<ZOLBoolList, ZOLTemplateList<int>>;
+using _ZOLFLOATList = List<ZOLFLOATList, ZOLTemplateList<float>>;
+using _ZOLREALList = List<ZOLREALList, ZOLTemplateList<double>>;
+using _ZOLLonglongList = List<ZOLLonglongList, ZOLTemplateList<long long>>;
+using _ZOLULonglongList = List<ZOLULonglongList, ZOLTemplateList<unsigned long long>>;
+using _ZOLIntPtrList = List<ZOLIntPtrList, ZOLTemplateList<unsigned long long>>;
+using _ZOLVoidPtrList = List<ZOLVoidPtrList, ZOLTemplateList<void*>>;
+using _ZOLPByteList = List<ZOLPByteList, ZOLTemplateList<unsigned char*>>;
+using _ZolValueList = List<ZolValueList, ZOLTemplateList<ZolValue>>;
 
 }  // namespace
 }  // namespace ZOL
