@@ -455,7 +455,8 @@ class IFaceClusterInfoList : public ListInterface<IFaceClusterInfoList, IFaceClu
   ~IFaceClusterInfoList() = default;
 };
 
-class IKyLoraTextToImageHistoryInfoList : public ListInterface<IKyLoraTextToImageHistoryInfoList, IKyLoraTextToImageHistoryInfo*> {
+class IKyLoraTextToImageHistoryInfoList
+    : public ListInterface<IKyLoraTextToImageHistoryInfoList, IKyLoraTextToImageHistoryInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyLoraTextToImageHistoryInfoList";
 
@@ -479,7 +480,8 @@ class IKyScriptSceneInfoList : public ListInterface<IKyScriptSceneInfoList, IKyS
   ~IKyScriptSceneInfoList() = default;
 };
 
-class IKyScriptCharacterInfoList : public ListInterface<IKyScriptCharacterInfoList, IKyScriptCharacterInfo*> {
+class IKyScriptCharacterInfoList
+    : public ListInterface<IKyScriptCharacterInfoList, IKyScriptCharacterInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyScriptCharacterInfoList";
 
@@ -487,7 +489,8 @@ class IKyScriptCharacterInfoList : public ListInterface<IKyScriptCharacterInfoLi
   ~IKyScriptCharacterInfoList() = default;
 };
 
-class IKyScriptEventSoundInfoList : public ListInterface<IKyScriptEventSoundInfoList, IKyScriptEventSoundInfo*> {
+class IKyScriptEventSoundInfoList
+    : public ListInterface<IKyScriptEventSoundInfoList, IKyScriptEventSoundInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyScriptEventSoundInfoList";
 
@@ -495,7 +498,8 @@ class IKyScriptEventSoundInfoList : public ListInterface<IKyScriptEventSoundInfo
   ~IKyScriptEventSoundInfoList() = default;
 };
 
-class IKyScriptCharactersIfInfoList : public ListInterface<IKyScriptCharactersIfInfoList, IKyScriptCharactersIfInfo*> {
+class IKyScriptCharactersIfInfoList
+    : public ListInterface<IKyScriptCharactersIfInfoList, IKyScriptCharactersIfInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyScriptCharactersIfInfoList";
 
@@ -511,7 +515,8 @@ class IKyScriptClipInfoList : public ListInterface<IKyScriptClipInfoList, IKyScr
   ~IKyScriptClipInfoList() = default;
 };
 
-class IZolResSerializeInfoList : public ListInterface<IZolResSerializeInfoList, IZolResSerializeInfo*> {
+class IZolResSerializeInfoList
+    : public ListInterface<IZolResSerializeInfoList, IZolResSerializeInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolResSerializeInfoList";
 
@@ -559,7 +564,8 @@ class IZolHighlightInfoList : public ListInterface<IZolHighlightInfoList, IZolHi
   ~IZolHighlightInfoList() = default;
 };
 
-class IZolSmartCutClipInfoList : public ListInterface<IZolSmartCutClipInfoList, IZolSmartCutClipInfo*> {
+class IZolSmartCutClipInfoList
+    : public ListInterface<IZolSmartCutClipInfoList, IZolSmartCutClipInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutClipInfoList";
 
@@ -583,7 +589,8 @@ class IZolStoryboardInfoList : public ListInterface<IZolStoryboardInfoList, IZol
   ~IZolStoryboardInfoList() = default;
 };
 
-class IZolSmartCutSearchResultList : public ListInterface<IZolSmartCutSearchResultList, IZolSmartCutSearchResult*> {
+class IZolSmartCutSearchResultList
+    : public ListInterface<IZolSmartCutSearchResultList, IZolSmartCutSearchResult*> {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutSearchResultList";
 
@@ -591,7 +598,9 @@ class IZolSmartCutSearchResultList : public ListInterface<IZolSmartCutSearchResu
   ~IZolSmartCutSearchResultList() = default;
 };
 
-class IZolSmartCutSearchDimensionsResultItemList : public ListInterface<IZolSmartCutSearchDimensionsResultItemList, IZolSmartCutSearchDimensionsResultItem*> {
+class IZolSmartCutSearchDimensionsResultItemList
+    : public ListInterface<IZolSmartCutSearchDimensionsResultItemList,
+                           IZolSmartCutSearchDimensionsResultItem*> {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutSearchDimensionsResultItemList";
 
@@ -599,7 +608,8 @@ class IZolSmartCutSearchDimensionsResultItemList : public ListInterface<IZolSmar
   ~IZolSmartCutSearchDimensionsResultItemList() = default;
 };
 
-class IZolRoleSearchItemInfoList : public ListInterface<IZolRoleSearchItemInfoList, IZolRoleSearchItemInfo*> {
+class IZolRoleSearchItemInfoList
+    : public ListInterface<IZolRoleSearchItemInfoList, IZolRoleSearchItemInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolRoleSearchItemInfoList";
 
@@ -650,7 +660,8 @@ KYDATASTRUCTURE_API ZOL::IZolBGRADataList* createIZolBGRADataList();
 KYDATASTRUCTURE_API ZOL::IZoEffectInfoList* createIZoEffectInfoList();
 KYDATASTRUCTURE_API ZOL::IZolPluginInfoList* createIZolPluginInfoList();
 KYDATASTRUCTURE_API ZOL::IFaceClusterInfoList* createIFaceClusterInfoList();
-KYDATASTRUCTURE_API ZOL::IKyLoraTextToImageHistoryInfoList* createIKyLoraTextToImageHistoryInfoList();
+KYDATASTRUCTURE_API ZOL::IKyLoraTextToImageHistoryInfoList*
+createIKyLoraTextToImageHistoryInfoList();
 KYDATASTRUCTURE_API ZOL::IKyVoiceDataInfoList* createIKyVoiceDataInfoList();
 KYDATASTRUCTURE_API ZOL::IKyScriptSceneInfoList* createIKyScriptSceneInfoList();
 KYDATASTRUCTURE_API ZOL::IKyScriptCharacterInfoList* createIKyScriptCharacterInfoList();
@@ -667,7 +678,8 @@ KYDATASTRUCTURE_API ZOL::IZolSmartCutClipInfoList* createIZolSmartCutClipInfoLis
 KYDATASTRUCTURE_API ZOL::IZolMusicInfoList* createIZolMusicInfoList();
 KYDATASTRUCTURE_API ZOL::IZolStoryboardInfoList* createIZolStoryboardInfoList();
 KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchResultList* createIZolSmartCutSearchResultList();
-KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchDimensionsResultItemList* createIZolSmartCutSearchDimensionsResultItemList();
+KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchDimensionsResultItemList*
+createIZolSmartCutSearchDimensionsResultItemList();
 KYDATASTRUCTURE_API ZOL::IZolRoleSearchItemInfoList* createIZolRoleSearchItemInfoList();
 KYDATASTRUCTURE_API ZOL::IGpuInfoList* createIGpuInfoList();
 

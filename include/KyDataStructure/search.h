@@ -112,9 +112,11 @@ createSmartCutSearchDimensionsResultItem();
 KYDATASTRUCTURE_API ZOL::IZolRoleSearchItemInfo* createRoleSearchItemInfo();
 
 /// The texts are copied; null is taken as the empty text.
-KYDATASTRUCTURE_API ZOL::IZolStageReportData* createStageReportData(
-    int stageType, const char* stageName, int stageStatus, int stageCode, const char* stageMessage,
-    const char* stageDetail);
+KYDATASTRUCTURE_API ZOL::IZolStageReportData* createStageReportData(int stageType,
+                                                                    const char* stageName,
+                                                                    int stageStatus, int stageCode,
+                                                                    const char* stageMessage,
+                                                                    const char* stageDetail);
 
 }  // extern "C"
 

@@ -31,16 +31,11 @@ struct LabelledDimension {
 };
 
 constexpr LabelledDimension kLabelledDimensions[] = {
-    {2, "total", false, true},
-    {3, "scene", true, false},
-    {4, "object", true, false},
-    {5, "camera", true, false},
-    {6, "camera_quality", false, false},
-    {7, "brightness_change", false, true},
-    {8, "scene_text", true, false},
-    {9, "emotion", true, false},
-    {11, "action", true, false},
-    {12, "shot_size", true, false},
+    {2, "total", false, true},           {3, "scene", true, false},
+    {4, "object", true, false},          {5, "camera", true, false},
+    {6, "camera_quality", false, false}, {7, "brightness_change", false, true},
+    {8, "scene_text", true, false},      {9, "emotion", true, false},
+    {11, "action", true, false},         {12, "shot_size", true, false},
 };
 
 Ref<IZolSliceItemList> newSliceList() {

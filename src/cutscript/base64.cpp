@@ -28,8 +28,7 @@ constexpr Shares kShares;
 
 class Decoder {
  public:
-  explicit Decoder(std::string_view text)
-      : text_(text), bytes_((text.size() / 4 + 1) * 3) {}
+  explicit Decoder(std::string_view text) : text_(text), bytes_((text.size() / 4 + 1) * 3) {}
 
   std::vector<unsigned char> decode() {
     std::size_t count = 0;
@@ -85,14 +84,14 @@ class Decoder {
   }
 
   std::uint32_t take(std::size_t placeInGroup) {
-    const std::uint32_t share =
-        kShares.of[placeInGroup][static_cast<unsigned char>(at(place_))];
+    const std::uint32_t share = kShares.of[placeInGroup][static_cast<unsigned char>(at(place_))];
     ++place_;
     return share & kOutside ? 0 : share;
   }
 
   static void put(unsigned char* to, std::uint32_t bits, std::size_t bytes) {
-    for (std::size_t i = 0; i < bytes; ++i) to[i] = static_cast<unsigned char>(bits >> (16 - 8 * i));
+    for (std::size_t i = 0; i < bytes; ++i)
+      to[i] = static_cast<unsigned char>(bits >> (16 - 8 * i));
   }
 
   std::string_view text_;

@@ -66,8 +66,7 @@ void writeRow(json::PrettyWriter& writer, IZolStoryboardInfo& row) {
 
 int jsonBufferToStoryboardInfoList(ZOL::IZolString* buffer, ZOL::IZolStoryboardInfoList* list) {
   if (!buffer || !list || buffer->length() == 0) return ZOL::kRefused;
-  const ZOL::json::Document document(
-      {buffer->text(), static_cast<std::size_t>(buffer->length())});
+  const ZOL::json::Document document({buffer->text(), static_cast<std::size_t>(buffer->length())});
   const ZOL::json::Value rows = document.root().member(ZOL::kRows);
   if (!rows.isArray()) return ZOL::kRefused;
   for (const ZOL::json::Value element : rows.elements()) {

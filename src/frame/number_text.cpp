@@ -37,15 +37,13 @@ int textToInt(const char* text) {
 }
 
 long long textToLonglong(const char* text) {
-  return convertText<long long>(text, "stoll", [](const char* from, char** end) {
-    return std::strtoll(from, end, 10);
-  });
+  return convertText<long long>(
+      text, "stoll", [](const char* from, char** end) { return std::strtoll(from, end, 10); });
 }
 
 double textToDouble(const char* text) {
-  return convertText<double>(text, "stod", [](const char* from, char** end) {
-    return std::strtod(from, end);
-  });
+  return convertText<double>(text, "stod",
+                             [](const char* from, char** end) { return std::strtod(from, end); });
 }
 
 }  // namespace ZOL

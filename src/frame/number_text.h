@@ -10,9 +10,9 @@ namespace ZOL {
 // ignored. Throw std::invalid_argument "invalid stoi argument" when there is no
 // number, and std::out_of_range "stoi argument out of range", with the name of the
 // conversion in the place of stoi.
-int textToInt(const char* text);              // stoi
-long long textToLonglong(const char* text);   // stoll
-double textToDouble(const char* text);        // stod
+int textToInt(const char* text);             // stoi
+long long textToLonglong(const char* text);  // stoll
+double textToDouble(const char* text);       // stod
 
 }  // namespace ZOL
 

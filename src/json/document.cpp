@@ -65,8 +65,8 @@ class TapeBuilder : public rapidjson::BaseReaderHandler<Encoding, TapeBuilder> {
 
   void grow() {
     const std::size_t capacity = capacity_ ? capacity_ * 2 : 64;
-    tape_ = static_cast<Node*>(ThrowingAllocator::Realloc(tape_, capacity_ * sizeof(Node),
-                                                          capacity * sizeof(Node)));
+    tape_ = static_cast<Node*>(
+        ThrowingAllocator::Realloc(tape_, capacity_ * sizeof(Node), capacity * sizeof(Node)));
     capacity_ = capacity;
   }
 

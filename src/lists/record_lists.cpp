@@ -31,9 +31,13 @@ ZOL::GradientColorList* createGradientColorList() { return ZOL::make<ZOL::_Gradi
 ZOL::ZOLPointFList* createZOLPointFList() { return ZOL::make<ZOL::_ZOLPointFList>(); }
 ZOL::ZOLRectNList* createZOLRectNList() { return ZOL::make<ZOL::_ZOLRectNList>(); }
 ZOL::ZOLRangeList* createZOLRangeList() { return ZOL::make<ZOL::_ZOLRangeList>(); }
-ZOL::BkMarkInOutSectionList* createBkMarkInOutSectionList() { return ZOL::make<ZOL::_BkMarkInOutSectionList>(); }
+ZOL::BkMarkInOutSectionList* createBkMarkInOutSectionList() {
+  return ZOL::make<ZOL::_BkMarkInOutSectionList>();
+}
 ZOL::ZOLRectFList* createZOLRectFList() { return ZOL::make<ZOL::_ZOLRectFList>(); }
-ZOL::RenderSegmentInfoList* createRenderSegmentInfoList() { return ZOL::make<ZOL::_RenderSegmentInfoList>(); }
+ZOL::RenderSegmentInfoList* createRenderSegmentInfoList() {
+  return ZOL::make<ZOL::_RenderSegmentInfoList>();
+}
 ZOL::ZOLPolygonFList* createZOLPolygonFList() { return ZOL::make<ZOL::_ZOLPolygonFList>(); }
 ZOL::PropertyList* createPropertyList() { return ZOL::make<ZOL::_PropertyList>(); }
 ZOL::KeyFrameValueList* createKeyFrameValueList() { return ZOL::make<ZOL::_KeyFrameValueList>(); }

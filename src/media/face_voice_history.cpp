@@ -108,7 +108,8 @@ class KyVoiceDataInfo final : public Counted<IKyVoiceDataInfo, RefCnt<void>> {
   Plain<int> voiceNumber6_;
 };
 
-class KyLoraTextToImageHistoryInfo final : public Counted<IKyLoraTextToImageHistoryInfo, RefCnt<void>> {
+class KyLoraTextToImageHistoryInfo final
+    : public Counted<IKyLoraTextToImageHistoryInfo, RefCnt<void>> {
  public:
   void* queryInterface(const char* name) override {
     return answer<IKyLoraTextToImageHistoryInfo, IDmBaseObj>(this, name);
@@ -143,4 +144,6 @@ class KyLoraTextToImageHistoryInfo final : public Counted<IKyLoraTextToImageHist
 
 ZOL::IFaceClusterInfo* createFaceClusterInfo() { return ZOL::make<ZOL::FaceClusterInfo>(); }
 ZOL::IKyVoiceDataInfo* createVoiceDataInfo() { return ZOL::make<ZOL::KyVoiceDataInfo>(); }
-ZOL::IKyLoraTextToImageHistoryInfo* createLoraTextToImageHistoryInfo() { return ZOL::make<ZOL::KyLoraTextToImageHistoryInfo>(); }
+ZOL::IKyLoraTextToImageHistoryInfo* createLoraTextToImageHistoryInfo() {
+  return ZOL::make<ZOL::KyLoraTextToImageHistoryInfo>();
+}

@@ -98,8 +98,8 @@ ZOL::IZolMediaData* createMediaData(unsigned int width, unsigned int height,
   return ZOL::makeFilled<ZOL::ZolMediaData>(width, height, data, size, tag);
 }
 
-ZOL::IZolBGRData* createBGRData(unsigned int width, unsigned int height,
-                                const unsigned char* data, int size, long long tag) {
+ZOL::IZolBGRData* createBGRData(unsigned int width, unsigned int height, const unsigned char* data,
+                                int size, long long tag) {
   return ZOL::makeFilled<ZOL::ZolBGRData>(width, height, data, size, tag);
 }
 

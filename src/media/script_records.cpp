@@ -37,8 +37,12 @@ class KyScriptClipInfo final : public Counted<IKyScriptClipInfo, RefCnt<void>> {
     return answer<IKyScriptClipInfo, IDmBaseObj>(this, name);
   }
 
-  int getCharactersIfList(IKyScriptCharactersIfInfoList* out) override { return charactersIfList_.giveTo(out); }
-  int setCharactersIfList(IKyScriptCharactersIfInfoList* in) override { return charactersIfList_.takeFrom(in); }
+  int getCharactersIfList(IKyScriptCharactersIfInfoList* out) override {
+    return charactersIfList_.giveTo(out);
+  }
+  int setCharactersIfList(IKyScriptCharactersIfInfoList* in) override {
+    return charactersIfList_.takeFrom(in);
+  }
   const char* clipText() override { return clipText_.get(); }
   int setClipText(const char* text) override { return clipText_.set(text); }
   int copyFrom(IKyScriptClipInfo* other) override {
@@ -149,8 +153,12 @@ class KyScriptSceneInfo final : public Counted<IKyScriptSceneInfo, RefCnt<void>>
   int setSceneText4(const char* text) override { return sceneText4_.set(text); }
   const char* sceneText5() override { return sceneText5_.get(); }
   int setSceneText5(const char* text) override { return sceneText5_.set(text); }
-  int getHistoryList(IKyLoraTextToImageHistoryInfoList* out) override { return historyList_.giveTo(out); }
-  int setHistoryList(IKyLoraTextToImageHistoryInfoList* in) override { return historyList_.takeFrom(in); }
+  int getHistoryList(IKyLoraTextToImageHistoryInfoList* out) override {
+    return historyList_.giveTo(out);
+  }
+  int setHistoryList(IKyLoraTextToImageHistoryInfoList* in) override {
+    return historyList_.takeFrom(in);
+  }
   int getClipList(IKyScriptClipInfoList* out) override { return clipList_.giveTo(out); }
   int setClipList(IKyScriptClipInfoList* in) override { return clipList_.takeFrom(in); }
   const char* sceneText6() override { return sceneText6_.get(); }
@@ -159,8 +167,12 @@ class KyScriptSceneInfo final : public Counted<IKyScriptSceneInfo, RefCnt<void>>
   int setSceneText7(const char* text) override { return sceneText7_.set(text); }
   int getSceneTexts3(ZOLPCharList* out) override { return sceneTexts3_.giveTo(out); }
   int setSceneTexts3(ZOLPCharList* in) override { return sceneTexts3_.takeFrom(in); }
-  int getEventSoundList(IKyScriptEventSoundInfoList* out) override { return eventSoundList_.giveTo(out); }
-  int setEventSoundList(IKyScriptEventSoundInfoList* in) override { return eventSoundList_.takeFrom(in); }
+  int getEventSoundList(IKyScriptEventSoundInfoList* out) override {
+    return eventSoundList_.giveTo(out);
+  }
+  int setEventSoundList(IKyScriptEventSoundInfoList* in) override {
+    return eventSoundList_.takeFrom(in);
+  }
   const char* sceneText8() override { return sceneText8_.get(); }
   int setSceneText8(const char* text) override { return sceneText8_.set(text); }
   const char* sceneText9() override { return sceneText9_.get(); }
@@ -227,7 +239,8 @@ class KyScriptSceneInfo final : public Counted<IKyScriptSceneInfo, RefCnt<void>>
   OwnedList<ZOLPCharList, createZOLPCharList> sceneTexts2_;
   TextRefusingNull sceneText4_;
   TextRefusingNull sceneText5_;
-  OwnedList<IKyLoraTextToImageHistoryInfoList, createIKyLoraTextToImageHistoryInfoList> historyList_;
+  OwnedList<IKyLoraTextToImageHistoryInfoList, createIKyLoraTextToImageHistoryInfoList>
+      historyList_;
   OwnedList<IKyScriptClipInfoList, createIKyScriptClipInfoList> clipList_;
   TextRefusingNull sceneText6_;
   TextRefusingNull sceneText7_;
@@ -245,6 +258,12 @@ class KyScriptSceneInfo final : public Counted<IKyScriptSceneInfo, RefCnt<void>>
 
 ZOL::IKyScriptSceneInfo* createScriptSceneInfo() { return ZOL::make<ZOL::KyScriptSceneInfo>(); }
 ZOL::IKyScriptClipInfo* createScriptClipInfo() { return ZOL::make<ZOL::KyScriptClipInfo>(); }
-ZOL::IKyScriptEventSoundInfo* createScriptEventSoundInfo() { return ZOL::make<ZOL::KyScriptEventSoundInfo>(); }
-ZOL::IKyScriptCharactersIfInfo* createScriptCharactersIfInfo() { return ZOL::make<ZOL::KyScriptCharactersIfInfo>(); }
-ZOL::IKyScriptCharacterInfo* createScriptCharacterInfo() { return ZOL::make<ZOL::KyScriptCharacterInfo>(); }
+ZOL::IKyScriptEventSoundInfo* createScriptEventSoundInfo() {
+  return ZOL::make<ZOL::KyScriptEventSoundInfo>();
+}
+ZOL::IKyScriptCharactersIfInfo* createScriptCharactersIfInfo() {
+  return ZOL::make<ZOL::KyScriptCharactersIfInfo>();
+}
+ZOL::IKyScriptCharacterInfo* createScriptCharacterInfo() {
+  return ZOL::make<ZOL::KyScriptCharacterInfo>();
+}

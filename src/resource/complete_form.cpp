@@ -34,8 +34,8 @@ void ZolResSerializeInfo::readVcg(json::Value record) {
   intProps_.set(kResType, kVcgType);
   walk(vcgResPropTable, record);
   if (!intProps_.has(kResId) || !intProps_.has(kResMeidaType)) return;
-  const std::string slug = std::to_string(intProps_.get(kResMeidaType)) + "_" +
-                           std::to_string(intProps_.get(kResId));
+  const std::string slug =
+      std::to_string(intProps_.get(kResMeidaType)) + "_" + std::to_string(intProps_.get(kResId));
   stringProps_.set(kResSlug, slug.c_str());
 }
 

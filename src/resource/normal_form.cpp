@@ -31,7 +31,9 @@ constexpr auto memberNames(std::index_sequence<Is...>) {
 constexpr auto kMemberNames = memberNames(std::make_index_sequence<kPropCount>());
 
 // The first element of an array; none when it is empty or no array.
-Value firstOf(Value array) { return array.isArray() && array.size() ? *array.elements().begin() : Value(); }
+Value firstOf(Value array) {
+  return array.isArray() && array.size() ? *array.elements().begin() : Value();
+}
 
 // The name of a row of kind `group` in its group.
 std::string_view groupName(Prop prop) { return resPropTable[prop].jsonKey; }

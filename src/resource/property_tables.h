@@ -61,7 +61,8 @@ struct ResProp {
   long long unset;  // what an integer that is not held reads as
 };
 
-// clang-format off: the columns are the point.
+// The columns are the point.
+// clang-format off
 inline constexpr std::array<ResProp, kPropCount> resPropTable = {{
     // property               key                         JSON name                  kind              unset
     {kResId,                  "rsResId",                  "id",                      ValueKind::integer,  0},

@@ -65,7 +65,7 @@ struct Folder {
 
 // By code; a code that is missing is not assigned. On purpose 25, the type of every
 // stock item, has an empty name and not the one of unknown types.
-// clang-format off: three columns of rows.
+// clang-format off
 constexpr Folder kFolders[] = {
     {0, "resComposite"},                 {1, "title"},                        {2, "transition"},
     {3, "filter"},                       {4, "overlay"},                      {5, "montage"},

@@ -48,8 +48,7 @@ class ZolStageReportData final : public Counted<IZolStageReportData, RefCnt<void
 
 ZOL::IZolStageReportData* createStageReportData(int stageType, const char* stageName,
                                                 int stageStatus, int stageCode,
-                                                const char* stageMessage,
-                                                const char* stageDetail) {
+                                                const char* stageMessage, const char* stageDetail) {
   return ZOL::make<ZOL::ZolStageReportData>(stageType, stageName, stageStatus, stageCode,
                                             stageMessage, stageDetail);
 }
