@@ -118,11 +118,11 @@ Ref<IZolBGRData> readFaceImage(Value imageMap, const char* name) {
     if (sameText(member.key->text, name) && isFaceImage(member.value)) image = member.value;
   }
   if (!image) return nullptr;
-  const auto bytes = decodeBase64(image.member("base64").bytes());
+  const DecodedBytes decoded = decodeBase64(image.member("base64").bytes());
   return Ref<IZolBGRData>::adopt(
       createBGRData(static_cast<unsigned int>(*image.member("width").integer32()),
-                    static_cast<unsigned int>(*image.member("height").integer32()), bytes.data(),
-                    static_cast<int>(bytes.size()), 0));
+                    static_cast<unsigned int>(*image.member("height").integer32()),
+                    decoded.bytes.get(), static_cast<int>(decoded.size), 0));
 }
 
 // {"1": ["0:0:1Z-0:0:4Z"], "2": [...]}. On purpose each cluster takes the place of the

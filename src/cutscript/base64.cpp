@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <utility>
 
 namespace ZOL {
 namespace {
@@ -26,11 +28,61 @@ struct Shares {
 };
 constexpr Shares kShares;
 
+#if defined(__GNUC__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+
+// Sixteen characters at once, in whatever vector registers the platform has.
+using Sixteen8 __attribute__((vector_size(16))) = std::uint8_t;
+using Eight16 __attribute__((vector_size(16))) = std::uint16_t;
+using Four32 __attribute__((vector_size(16))) = std::uint32_t;
+using Two64 __attribute__((vector_size(16))) = std::uint64_t;
+
+// The same bits in lanes of another width.
+template <class To, class From>
+To lanesOf(const From& from) {
+  To to;
+  std::memcpy(&to, &from, sizeof(to));
+  return to;
+}
+
+// Writes twelve bytes and four more of no meaning; false, with nothing written, unless
+// all sixteen characters are of the alphabet.
+bool takeSixteen(const unsigned char* from, unsigned char* to) {
+  Sixteen8 text;
+  std::memcpy(&text, from, sizeof(text));
+  const auto upper = lanesOf<Sixteen8>(text - 'A' < 26);
+  const auto lower = lanesOf<Sixteen8>(text - 'a' < 26);
+  const auto digit = lanesOf<Sixteen8>(text - '0' < 10);
+  const auto plus = lanesOf<Sixteen8>(text == '+');
+  const auto slash = lanesOf<Sixteen8>(text == '/');
+  const auto inside = lanesOf<Two64>(upper | lower | digit | plus | slash);
+  if ((inside[0] & inside[1]) != ~std::uint64_t{0}) return false;
+  const Sixteen8 sixes = ((text - 'A') & upper) | ((text - ('a' - 26)) & lower) |
+                         ((text + (52 - '0')) & digit) | (62 & plus) | (63 & slash);
+  // Two, four and eight values to one, the first of them highest.
+  const auto pairs = lanesOf<Eight16>(sixes);
+  const auto twelves = lanesOf<Four32>(((pairs & 0xFF) << 6) | (pairs >> 8));
+  const auto groups = lanesOf<Two64>(((twelves & 0xFFFF) << 12) | (twelves >> 16));
+  for (int half = 0; half < 2; ++half) {
+    const std::uint64_t bits = ((groups[half] & 0xFFFFFFFF) << 24) | (groups[half] >> 32);
+    const std::uint64_t bytes = __builtin_bswap64(bits << 16);
+    std::memcpy(to + 6 * half, &bytes, sizeof(bytes));
+  }
+  return true;
+}
+
+#else
+
+bool takeSixteen(const unsigned char*, unsigned char*) { return false; }
+
+#endif
+
 class Decoder {
  public:
-  explicit Decoder(std::string_view text) : text_(text), bytes_((text.size() / 4 + 1) * 3) {}
+  // Room for three bytes for each four that count, and for what sixteen at once spill.
+  explicit Decoder(std::string_view text)
+      : text_(text), bytes_(new unsigned char[(text.size() / 4 + 1) * 3 + 4]) {}
 
-  std::vector<unsigned char> decode() {
+  DecodedBytes decode() {
     std::size_t count = 0;
     while (count < text_.size()) {
       count += takePlainGroups(text_.size() - count);
@@ -43,8 +95,7 @@ class Decoder {
         count += 4;
       }
     }
-    bytes_.resize(size_);
-    return std::move(bytes_);
+    return {std::move(bytes_), size_};
   }
 
  private:
@@ -53,18 +104,25 @@ class Decoder {
   // Groups of four characters of the alphabet, as far as they go; answers how much they
   // count, which is how many characters they are.
   std::size_t takePlainGroups(std::size_t left) {
-    const std::size_t begin = place_;
     const auto* from = reinterpret_cast<const unsigned char*>(text_.data()) + place_;
-    unsigned char* to = bytes_.data() + size_;
-    for (std::size_t groups = left / 4; groups > 0; --groups, from += 4, to += 3) {
+    const unsigned char* const begin = from;
+    unsigned char* to = bytes_.get() + size_;
+    for (; left >= 16 && takeSixteen(from, to); left -= 16) {
+      from += 16;
+      to += 12;
+    }
+    for (; left >= 4; left -= 4) {
       const std::uint32_t bits = kShares.of[0][from[0]] | kShares.of[1][from[1]] |
                                  kShares.of[2][from[2]] | kShares.of[3][from[3]];
       if (bits & kOutside) break;
       put(to, bits, 3);
+      from += 4;
+      to += 3;
     }
-    place_ = static_cast<std::size_t>(from - reinterpret_cast<const unsigned char*>(text_.data()));
-    size_ = static_cast<std::size_t>(to - bytes_.data());
-    return place_ - begin;
+    const auto taken = static_cast<std::size_t>(from - begin);
+    place_ += taken;
+    size_ = static_cast<std::size_t>(to - bytes_.get());
+    return taken;
   }
 
   // A group with anything else in it.
@@ -79,7 +137,7 @@ class Decoder {
         ++bytes;
       }
     }
-    put(bytes_.data() + size_, bits, bytes);
+    put(bytes_.get() + size_, bits, bytes);
     size_ += bytes;
   }
 
@@ -95,13 +153,13 @@ class Decoder {
   }
 
   std::string_view text_;
-  std::vector<unsigned char> bytes_;  // room for three bytes for each four that count
+  Bytes<unsigned char> bytes_;
   std::size_t place_ = 0;
   std::size_t size_ = 0;
 };
 
 }  // namespace
 
-std::vector<unsigned char> decodeBase64(std::string_view text) { return Decoder(text).decode(); }
+DecodedBytes decodeBase64(std::string_view text) { return Decoder(text).decode(); }
 
 }  // namespace ZOL

@@ -3,10 +3,17 @@
 #ifndef KYDATASTRUCTURE_CUTSCRIPT_BASE64_H_
 #define KYDATASTRUCTURE_CUTSCRIPT_BASE64_H_
 
+#include <cstddef>
 #include <string_view>
-#include <vector>
+
+#include "frame/bytes.h"
 
 namespace ZOL {
+
+struct DecodedBytes {
+  Bytes<unsigned char> bytes;
+  std::size_t size;
+};
 
 // The standard alphabet; every other character counts as 0 and is no error. The walk
 // goes in groups, and a running count, not the place in the text, ends it:
@@ -18,7 +25,7 @@ namespace ZOL {
 //   stands early is the first character of the next group, too.
 //
 // Behind its end the text reads as zeros.
-std::vector<unsigned char> decodeBase64(std::string_view text);
+DecodedBytes decodeBase64(std::string_view text);
 
 }  // namespace ZOL
 

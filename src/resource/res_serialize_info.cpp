@@ -224,12 +224,18 @@ int ZolResSerializeInfo::removeRelatedRes(IZolResSerializeInfo* info) {
     return kSuccess;
   }
   if (!mayBeRelated(info)) return kRefused;
+  // Asked ahead of the lock: `info` is the caller's, and has a lock of its own.
+  std::array<std::string, userStringTable.size()> texts;
+  for (std::size_t row = 0; row < texts.size(); ++row) {
+    texts[row] = info->userString(userStringTable[row].key.data());
+  }
   const Lock lock(stateMutex_);
   // On purpose the slugs are not compared.
-  const auto sameUserStrings = [info](const Ref<ZolResSerializeInfo>& entry) {
-    return std::all_of(userStringTable.begin(), userStringTable.end(), [&](const UserString& row) {
-      return sameText(info->userString(row.key.data()), entry->userString(row.key.data()));
-    });
+  const auto sameUserStrings = [&texts](const Ref<ZolResSerializeInfo>& entry) {
+    for (std::size_t row = 0; row < texts.size(); ++row) {
+      if (texts[row] != entry->userString(userStringTable[row].key.data())) return false;
+    }
+    return true;
   };
   const auto staying = std::stable_partition(
       relatedRes_.begin(), relatedRes_.end(),
