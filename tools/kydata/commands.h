@@ -1,0 +1,45 @@
+#ifndef KYDATA_COMMANDS_H_
+#define KYDATA_COMMANDS_H_
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "output.h"
+
+namespace kydata {
+
+// What the command line asked for, and the run of it. A run answers true when every
+// file could be handled; what could not has been reported on standard error.
+
+struct ResourceOptions {
+  std::vector<std::string> files;
+  std::optional<int> completeType;  ///< reads the complete form of that info type
+  bool linesAreTexts = false;       ///< each line is a text of its own
+  bool writeNormal = false;
+  bool unique = false;
+};
+bool runResource(const ResourceOptions& options, Output& out);
+
+struct CutOptions {
+  std::string file;
+  std::optional<int> script;  ///< counted from 1
+  std::string svg;            ///< the picture's file; empty for tables
+};
+bool runCut(const CutOptions& options, Output& out);
+
+struct ReportOptions {
+  std::string file;
+  std::string svg;  ///< the picture's file; empty for tables
+};
+bool runReport(const ReportOptions& options, Output& out);
+
+struct StoryboardOptions {
+  std::string file;
+  int script = 1;  ///< of a cut reply, counted from 1
+};
+bool runStoryboard(const StoryboardOptions& options, Output& out);
+
+}  // namespace kydata
+
+#endif  // KYDATA_COMMANDS_H_

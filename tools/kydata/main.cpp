@@ -1,0 +1,230 @@
+// kydata: reads the texts that the library reads, and shows what they hold.
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "commands.h"
+#include "info_types.h"
+#include "input.h"
+
+namespace {
+
+constexpr int kSomethingFailed = 1;
+constexpr int kWrongUsage = 2;
+
+const char* const kExitStatus =
+    "Exit status:\n"
+    "  0  everything was handled\n"
+    "  1  a file could not be; standard error names it and says why\n"
+    "  2  the command line was wrong";
+
+std::string footer(const std::string& text) { return text + "\n" + kExitStatus; }
+
+std::string listOfInfoTypes() {
+  std::string text = "Info types of the complete form:";
+  const char* previous = "";
+  for (const kydata::InfoType& type : kydata::kInfoTypes) {
+    const bool isSame = std::string(type.meaning) == previous;
+    if (!isSame) text += "\n  " + std::string(type.meaning) + ":";
+    text += (isSame ? ", " : " ") + std::to_string(type.code);
+    previous = type.meaning;
+  }
+  return text + "\n";
+}
+
+/// What the command line may hold, and what it asked for.
+class CommandLine {
+ public:
+  CommandLine() : app_("Reads the texts of a video editor's data model and shows what they hold.") {
+    app_.name("kydata");
+    app_.set_version_flag("--version", "kydata " KYDATA_VERSION);
+    app_.require_subcommand(1);
+    app_.footer(
+        footer("Example:\n"
+               "  kydata resource examples/data/pack_title.json\n\n"
+               "kydata COMMAND --help tells more of one command.\n"));
+    addResource();
+    addCut();
+    addReport();
+    addStoryboard();
+  }
+
+  void parse(int argc, char** argv) { app_.parse(argc, argv); }
+
+  bool run(kydata::Output& out) const {
+    if (resourceCommand_->parsed()) return runResource(resource_, out);
+    if (cutCommand_->parsed()) return runCut(cut_, out);
+    if (reportCommand_->parsed()) return runReport(report_, out);
+    return runStoryboard(storyboard_, out);
+  }
+
+  /// Answers a request for help or the version with 0, and anything else with a
+  /// line of what is wrong and one of how the command is used.
+  int explain(const CLI::ParseError& error) const {
+    if (error.get_exit_code() == 0) return app_.exit(error);
+    std::cerr << "kydata: " << whatIsWrong(error) << "\nUsage: kydata " << usage()
+              << "\nRun it with --help for more.\n";
+    return kWrongUsage;
+  }
+
+ private:
+  static constexpr const char* kResourceUsage =
+      "resource [--complete INFOTYPE | --unique] [--lines] [--normal] FILE...";
+  static constexpr const char* kCutUsage = "cut [--script N] [--svg OUT] FILE";
+  static constexpr const char* kReportUsage = "report [--svg OUT] FILE";
+  static constexpr const char* kStoryboardUsage = "storyboard [--script N] FILE";
+
+  static std::string kindOf(const std::string& word) {
+    return word.rfind('-', 0) == 0 ? "option" : "command";
+  }
+
+  std::string whatIsWrong(const CLI::ParseError& error) const {
+    if (!app_.get_subcommands().empty()) return error.what();
+    const std::vector<std::string> words = app_.remaining();
+    return words.empty() ? "it takes a command"
+                         : "there is no " + kindOf(words.front()) + " \"" + words.front() + "\"";
+  }
+
+  std::string usage() const {
+    if (resourceCommand_->parsed()) return kResourceUsage;
+    if (cutCommand_->parsed()) return kCutUsage;
+    if (reportCommand_->parsed()) return kReportUsage;
+    if (storyboardCommand_->parsed()) return kStoryboardUsage;
+    return "resource|cut|report|storyboard [OPTIONS] FILE...";
+  }
+
+  void addResource() {
+    CLI::App* command = app_.add_subcommand("resource", "Shows resource descriptions");
+    resourceCommand_ = command;
+    command->add_option("FILE", resource_.files, "Texts to read; - is standard input")
+        ->required()
+        ->type_name("");
+    auto* complete = command
+                         ->add_option("--complete", resource_.completeType,
+                                      "Read the complete form of this info type")
+                         ->type_name("INFOTYPE")
+                         ->check(CLI::Validator(isInfoType, "", "info type"));
+    command->add_flag("--lines", resource_.linesAreTexts,
+                      "Each line of a file is a text of its own");
+    command->add_flag("--normal", resource_.writeNormal, "Write the normal form, one in a line");
+    command
+        ->add_flag("--unique", resource_.unique,
+                   "Take all texts as one list, and keep the first of each unique key")
+        ->excludes(complete);
+    command->footer(footer(
+        "Control characters are shown as escapes, and a backslash as two.\n\n" + listOfInfoTypes() +
+        "\nExamples:\n"
+        "  kydata resource pack.json                   a description as a table\n"
+        "  kydata resource --complete 101 photo.json   a stock record as a table\n"
+        "  kydata resource --complete 101 --normal photo.json | kydata resource -\n"
+        "  kydata resource --unique list/*.json        which of them are doubles\n"));
+  }
+
+  void addCut() {
+    CLI::App* command = app_.add_subcommand("cut", "Shows the scripts of a cut reply");
+    cutCommand_ = command;
+    command->add_option("FILE", cut_.file, "The reply; - is standard input")
+        ->required()
+        ->type_name("");
+    command->add_option("--script", cut_.script, "Only this script, counted from 1")
+        ->type_name("N")
+        ->check(CLI::Validator(isCount, "", "count"));
+    addSvg(command, cut_.svg, "Draw a script (the first, unless --script says) as a timeline");
+    command->footer(
+        footer("A reply does not tell the unit of its times: they are shown as milliseconds.\n"
+               "Texts and highlights stand at times of their source. On the finished timeline\n"
+               "they are placed through the clip of their row, row start + (time - clip start),\n"
+               "and kept within the row.\n"
+               "\nExamples:\n"
+               "  kydata cut reply.json\n"
+               "  kydata cut reply.json --script 2 --svg timeline.svg\n"));
+  }
+
+  void addReport() {
+    CLI::App* command = app_.add_subcommand("report", "Shows an analysis report");
+    reportCommand_ = command;
+    command->add_option("FILE", report_.file, "The report; - is standard input")
+        ->required()
+        ->type_name("");
+    addSvg(command, report_.svg, "Draw the spans of all dimensions over time");
+    command->footer(
+        footer("Score samples are not shown: the library keeps them and does not give them out.\n"
+               "\nExamples:\n"
+               "  kydata report report.json\n"
+               "  kydata report report.json --svg spans.svg\n"));
+  }
+
+  void addStoryboard() {
+    CLI::App* command =
+        app_.add_subcommand("storyboard", "Writes the storyboard text of a cut reply");
+    storyboardCommand_ = command;
+    command
+        ->add_option("FILE", storyboard_.file,
+                     "A cut reply or a storyboard text; - is standard input")
+        ->required()
+        ->type_name("");
+    command->add_option("--script", storyboard_.script, "Which script of a reply, counted from 1")
+        ->type_name("N")
+        ->check(CLI::Validator(isCount, "", "count"));
+    command->footer(
+        footer("Of a storyboard text, rows that lack a member are left out.\n"
+               "\nExample:\n"
+               "  kydata storyboard reply.json --script 2 > storyboard.json\n"));
+  }
+
+  static void addSvg(CLI::App* command, std::string& file, const std::string& text) {
+    command->add_option("--svg", file, text + ", and write that picture; - is standard output")
+        ->type_name("OUT");
+  }
+
+  static std::string isCount(const std::string& text) {
+    const bool isNumber = text.find_first_not_of("0123456789") == std::string::npos;
+    const bool isPositive = text.find_first_not_of('0') != std::string::npos;
+    if (isNumber && isPositive && text.size() < 10) return "";
+    return "N counts scripts from 1, and \"" + text + "\" is no such number";
+  }
+
+  static std::string isInfoType(const std::string& text) {
+    for (const kydata::InfoType& type : kydata::kInfoTypes) {
+      if (text == std::to_string(type.code)) return "";
+    }
+    return "there is no info type " + text + "; --help lists them";
+  }
+
+  CLI::App app_;
+  CLI::App* resourceCommand_ = nullptr;
+  CLI::App* cutCommand_ = nullptr;
+  CLI::App* reportCommand_ = nullptr;
+  CLI::App* storyboardCommand_ = nullptr;
+  kydata::ResourceOptions resource_;
+  kydata::CutOptions cut_;
+  kydata::ReportOptions report_;
+  kydata::StoryboardOptions storyboard_;
+};
+
+int runProgram(int argc, char** argv) {
+  CommandLine commandLine;
+  try {
+    commandLine.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return commandLine.explain(error);
+  }
+  kydata::Output out;
+  const bool allGood = commandLine.run(out);
+  const bool allWritten = kydata::reportingFaults("standard output", [&] { out.finish(); });
+  return allGood && allWritten ? 0 : kSomethingFailed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return runProgram(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << "kydata: " << error.what() << '\n';
+    return kSomethingFailed;
+  }
+}
