@@ -1,0 +1,29 @@
+# Fails when LIBRARY runs code of its own while it is loaded. Called with NM, READELF,
+# POINTER_SIZE and SANITIZE, what the build was told to check.
+if(SANITIZE)
+  message(STATUS "skipped: '-fsanitize=${SANITIZE}' adds start-up code")
+  return()
+endif()
+
+# The compiler puts one function of its own, frame_dummy, into the table.
+execute_process(
+  COMMAND ${READELF} --dynamic --wide ${LIBRARY}
+  RESULT_VARIABLE failed
+  OUTPUT_VARIABLE dynamic)
+if(failed)
+  message(FATAL_ERROR "cannot read ${LIBRARY}")
+endif()
+set(bytes 0)
+if(dynamic MATCHES "\\(INIT_ARRAYSZ\\) +([0-9]+)")
+  set(bytes ${CMAKE_MATCH_1})
+endif()
+
+# The names that compilers give to the initialisers of a source file.
+execute_process(COMMAND ${NM} --defined-only ${LIBRARY} OUTPUT_VARIABLE symbols)
+string(REGEX MATCHALL "(_GLOBAL__(sub_)?I_|__cxx_global_var_init|_Z41__static_init)[^\n]*"
+  initialisers "${symbols}")
+
+message(STATUS "start-up table of ${bytes} bytes; initialisers: ${initialisers}")
+if(bytes GREATER POINTER_SIZE OR initialisers)
+  message(FATAL_ERROR "the library has start-up code")
+endif()

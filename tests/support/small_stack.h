@@ -1,0 +1,33 @@
+// A thread with little stack: whatever recurses for each level of a deeply nested
+// text does not come back from it.
+
+#ifndef KYDATASTRUCTURE_TESTS_SUPPORT_SMALL_STACK_H_
+#define KYDATASTRUCTURE_TESTS_SUPPORT_SMALL_STACK_H_
+
+#include <gtest/gtest.h>
+#include <pthread.h>
+
+#include <cstddef>
+
+constexpr std::size_t kSmallStack = 256 * 1024;
+
+// Runs `work` to its end on a thread with a stack of 256 KiB.
+template <class Work>
+void onSmallStack(Work work) {
+  struct Entry {
+    static void* run(void* argument) {
+      (*static_cast<Work*>(argument))();
+      return nullptr;
+    }
+  };
+  pthread_attr_t attributes;
+  ASSERT_EQ(pthread_attr_init(&attributes), 0);
+  ASSERT_EQ(pthread_attr_setstacksize(&attributes, kSmallStack), 0);
+  pthread_t thread;
+  const int result = pthread_create(&thread, &attributes, &Entry::run, &work);
+  pthread_attr_destroy(&attributes);
+  ASSERT_EQ(result, 0);
+  ASSERT_EQ(pthread_join(thread, nullptr), 0);
+}
+
+#endif  // KYDATASTRUCTURE_TESTS_SUPPORT_SMALL_STACK_H_
