@@ -85,8 +85,7 @@ constexpr unsigned kTolerant = kStrict | rapidjson::kParseCommentsFlag |
 // Each byte of the mark by itself, if it stands next.
 char* behindByteOrderMark(char* text) {
   for (const char byte : {'\xEF', '\xBB', '\xBF'}) {
-    if (*text != byte) break;
-    ++text;
+    if (*text == byte) ++text;
   }
   return text;
 }

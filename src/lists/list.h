@@ -89,7 +89,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   // On purpose cleared before `other` is read, so that a list assigned to itself
   // is empty afterwards.
   int assign(Interface* other) override {
-    const Store* const source = own<Store>(other);
+    const Store* const source = storeOf(other);
     if (!source) return kRefused;
     clear();
     Store::items.reserve(source->items.size());
@@ -100,7 +100,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   }
 
   int insertListAt(long long index, Interface* other) override {
-    const Store* const source = own<Store>(other);
+    const Store* const source = storeOf(other);
     if (!source || !mayStandAt(index)) return kRefused;
     std::vector<Item> taken;
     taken.reserve(source->items.size());
@@ -136,6 +136,10 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   }
 
  private:
+  // On purpose by the store alone: a list of another interface over the same store,
+  // which a caller has cast to this one, is as good.
+  static const Store* storeOf(IDmBaseObj* other) { return own<Store>(other); }
+
   bool holds(long long index) { return index >= 0 && index < size(); }
   bool mayStandAt(long long index) { return index >= 0 && index <= size(); }
   static std::size_t place(long long index) { return static_cast<std::size_t>(index); }
