@@ -105,7 +105,7 @@ void ZolResSerializeInfo::readUserStrings(Value object) {
 }
 
 void ZolResSerializeInfo::deduceInfoType() {
-  if (intValue(kResInfoType) != kUnknownInfo || *stringValue(kResSlug) == '\0') return;
+  if (intValue(kResInfoType) != kUnknownInfo || !holdsText(kResSlug)) return;
   const long long type = intValue(kResType);
   if (type == kNoType || type == kStockType || type == kVcgType) return;
   const long long deduced = intValue(kResPackId) >= 1 ? kPackInfoType : kSingleInfoType;

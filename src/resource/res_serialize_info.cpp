@@ -33,7 +33,7 @@ void* ZolResSerializeInfo::queryInterface(const char* name) {
 bool ZolResSerializeInfo::isValid() {
   const long long infoType = intValue(kResInfoType);
   const long long type = intValue(kResType);
-  if (*stringValue(kResSlug) == '\0' || type == kNoType) return false;
+  if (!holdsText(kResSlug) || type == kNoType) return false;
   switch (infoType) {
     case kPackInfoType:  // on purpose alone in refusing the type 0
       return type != 0 && intValue(kResPackId) >= 1;
@@ -42,7 +42,7 @@ bool ZolResSerializeInfo::isValid() {
     case kVcgInfoType:
       return intValue(kResId) >= 1;
     default:
-      return stockProviderOf(infoType) && *stringValue(kResStockMediaStrId) != '\0';
+      return stockProviderOf(infoType) && holdsText(kResStockMediaStrId);
   }
 }
 
@@ -173,6 +173,11 @@ const char* ZolResSerializeInfo::stringValue(Prop prop) {
   return stringProps_.get(prop);
 }
 
+bool ZolResSerializeInfo::holdsText(Prop prop) {
+  const Lock lock(stateMutex_);
+  return *stringProps_.get(prop) != '\0';
+}
+
 const char* ZolResSerializeInfo::stringValue(const char* key) {
   const int row = rowOf(kPropKeys, key);
   return row < 0 ? "" : stringValue(propAt(row));
@@ -198,11 +203,22 @@ bool ZolResSerializeInfo::hasName() const {
          (intProps_.has(kResId) && intProps_.get(kResId) != 0);
 }
 
+// A valid one has a slug.
 bool ZolResSerializeInfo::mayBeRelated(IZolResSerializeInfo* info) {
   if (!info || !info->isValid() || !info->queryInterface("ZolResSerializeInfo")) return false;
   auto* const inside = query<IZolResSerializeInfoInternal>(info);
-  return inside && inside->intValue(resSerializeInfoPropKey::rsResIsCustom) == 0 &&
-         *inside->stringValue(resSerializeInfoPropKey::rsResSlug) != '\0';
+  return inside && inside->intValue(resSerializeInfoPropKey::rsResIsCustom) == 0;
+}
+
+ZolResSerializeInfo::UserStrings ZolResSerializeInfo::userStringsOf(IZolResSerializeInfo* info) {
+  UserStrings texts;
+  auto* const ours = own<ZolResSerializeInfo>(info);
+  std::unique_lock<std::recursive_mutex> lock;
+  if (ours) lock = std::unique_lock<std::recursive_mutex>(ours->stateMutex_);
+  for (std::size_t row = 0; row < texts.size(); ++row) {
+    texts[row] = info->userString(userStringTable[row].key.data());
+  }
+  return texts;
 }
 
 int ZolResSerializeInfo::addRelatedRes(IZolResSerializeInfo* info) {
@@ -225,10 +241,7 @@ int ZolResSerializeInfo::removeRelatedRes(IZolResSerializeInfo* info) {
   }
   if (!mayBeRelated(info)) return kRefused;
   // Asked ahead of the lock: `info` is the caller's, and has a lock of its own.
-  std::array<std::string, userStringTable.size()> texts;
-  for (std::size_t row = 0; row < texts.size(); ++row) {
-    texts[row] = info->userString(userStringTable[row].key.data());
-  }
+  const UserStrings texts = userStringsOf(info);
   const Lock lock(stateMutex_);
   // On purpose the slugs are not compared.
   const auto sameUserStrings = [&texts](const Ref<ZolResSerializeInfo>& entry) {

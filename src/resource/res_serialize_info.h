@@ -6,6 +6,7 @@
 
 #include <KyDataStructure/resource.h>
 
+#include <array>
 #include <atomic>
 #include <mutex>
 #include <string>
@@ -86,9 +87,14 @@ class ZolResSerializeInfo final
   // The value by row, under the lock for the lookup.
   long long intValue(Prop prop);
   const char* stringValue(Prop prop);
+  // True if the text is not empty; another thread may set it at the same time.
+  bool holdsText(Prop prop);
   // True if the slug is not empty or the id not 0: what reader and writer ask for.
   bool hasName() const;
-  bool mayBeRelated(IZolResSerializeInfo* info);
+  static bool mayBeRelated(IZolResSerializeInfo* info);
+  // Copies, of one moment if the description is ours: another thread may set them.
+  using UserStrings = std::array<std::string, userStringTable.size()>;
+  static UserStrings userStringsOf(IZolResSerializeInfo* info);
 
   // The steps of the readers, all of them under the lock.
   void read(Prop prop, ValueKind kind, json::Value value);
