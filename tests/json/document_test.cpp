@@ -94,10 +94,11 @@ TEST(JsonDocument, AnswersForAnotherTypeAsForNoValue) {
   for (const std::string& text : texts) {
     const Document document(text);
     const Value value = document.root();
-    found += text + ":" + (value.isNumber() ? " number" : "") + (value.isString() ? " string" : "") +
-             (value.isArray() ? " array" : "") + (value.isObject() ? " object" : "") + " " +
-             show(value.integer64()) + " " + show(value.text()) + " " +
-             std::to_string(value.size()) + " " + show(value.member("a").integer64()) + "\n";
+    found += text + ":" + (value.isNumber() ? " number" : "") +
+             (value.isString() ? " string" : "") + (value.isArray() ? " array" : "") +
+             (value.isObject() ? " object" : "") + " " + show(value.integer64()) + " " +
+             show(value.text()) + " " + std::to_string(value.size()) + " " +
+             show(value.member("a").integer64()) + "\n";
   }
   EXPECT_EQ(found,
             "null: none none 0 none\n"
@@ -136,7 +137,8 @@ TEST(JsonDocument, CountsTheFirstOfMembersWithOneName) {
 
 TEST(JsonDocument, FindsAMemberByItsWholeName) {
   const Document document(
-      "{\"name\\u0000x\":1,\"names\":2,\"nam\":3,\"Name\":4,\" name\":5,\"n\\u0061me\":6,\"name\":7}");
+      "{\"name\\u0000x\":1,\"names\":2,\"nam\":3,\"Name\":4,\" "
+      "name\":5,\"n\\u0061me\":6,\"name\":7}");
   EXPECT_EQ(show(document.root().member("name").integer64()), "6");
   EXPECT_EQ(show(document.root().member(std::string("name\0x", 6)).integer64()), "1");
   EXPECT_EQ(show(document.root().member("NAME").integer64()), "none");

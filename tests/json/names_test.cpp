@@ -18,8 +18,13 @@ using ZOL::json::namesOf;
 
 // Texts that are nearly `name`.
 std::vector<std::string> nearMisses(const std::string& name) {
-  std::vector<std::string> texts = {name + "x", "x" + name, name + " ", " " + name, name + name,
-                                    name + std::string(1, '\0'), std::string(1, '\0') + name,
+  std::vector<std::string> texts = {name + "x",
+                                    "x" + name,
+                                    name + " ",
+                                    " " + name,
+                                    name + name,
+                                    name + std::string(1, '\0'),
+                                    std::string(1, '\0') + name,
                                     name + std::string(70000, 'x')};
   for (std::size_t i = 0; i < name.size(); ++i) {
     std::string text = name;

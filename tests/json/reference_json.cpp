@@ -11,8 +11,7 @@
 
 namespace {
 
-constexpr unsigned kTolerant = rapidjson::kParseCommentsFlag |
-                               rapidjson::kParseTrailingCommasFlag |
+constexpr unsigned kTolerant = rapidjson::kParseCommentsFlag | rapidjson::kParseTrailingCommasFlag |
                                rapidjson::kParseStopWhenDoneFlag;
 
 std::string quotedBytes(const rapidjson::Value& text) {

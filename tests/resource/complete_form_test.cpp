@@ -25,17 +25,18 @@ constexpr int kGiphy[] = {106, 107, 108, 109};
 
 std::string stockItem(const std::string& id, int infoType, int subType, const std::string& slug) {
   return "{rsResId: " + id + ", rsResInfoType: " + std::to_string(infoType) + ", rsResSlug: \"" +
-         slug + "\", rsResStockMediaStrId: \"" + id + "\", rsResSubType: " +
-         std::to_string(subType) + ", rsResType: 25}";
+         slug + "\", rsResStockMediaStrId: \"" + id +
+         "\", rsResSubType: " + std::to_string(subType) + ", rsResType: 25}";
 }
 
 TEST(CompleteForm, OfAStockItemIsItsIdUnderTheProvidersName) {
   for (const Provider& provider : kNumbered) {
-    EXPECT_EQ(afterReadingRecord("{\"id\":42,\"name\":\"not read\",\"res_type\":3,\"slug\":\"nor this\","
-                                 "\"type\":4,\"infoType\":7,\"real_id\":\"9\",\"res_sub_type\":9}",
-                                 provider.infoType),
-              "0 " + stockItem("42", provider.infoType, provider.subType,
-                               provider.prefix + std::string("42")));
+    EXPECT_EQ(
+        afterReadingRecord("{\"id\":42,\"name\":\"not read\",\"res_type\":3,\"slug\":\"nor this\","
+                           "\"type\":4,\"infoType\":7,\"real_id\":\"9\",\"res_sub_type\":9}",
+                           provider.infoType),
+        "0 " + stockItem("42", provider.infoType, provider.subType,
+                         provider.prefix + std::string("42")));
   }
 }
 
@@ -83,8 +84,9 @@ TEST(CompleteForm, TakesAStockIdAsANumberOrAsASumOfBytes) {
           << row.id;
     }
     for (const int infoType : kGiphy) {
-      EXPECT_EQ(afterReadingRecord("{\"id\":" + std::string(row.id) + ",\"slug\":\"cat\"}", infoType),
-                "0 " + stockItem(row.number, infoType, 1, "giphy/cat"))
+      EXPECT_EQ(
+          afterReadingRecord("{\"id\":" + std::string(row.id) + ",\"slug\":\"cat\"}", infoType),
+          "0 " + stockItem(row.number, infoType, 1, "giphy/cat"))
           << row.id;
     }
   }
@@ -122,10 +124,18 @@ TEST(CompleteForm, LetsTheSumOfBytesWrapAroundIn32Bits) {
 }
 
 TEST(CompleteForm, OfAStockItemWithoutAnIdHasNoIdAndNoSlug) {
-  const std::vector<std::string> ids = {"12.0",  "1e2",   "-0.0", "9223372036854775808",
-                                        "99999999999999999999", "-9223372036854775809",
-                                        "null",  "true",  "[]",   "[42]",
-                                        "{}",    "{\"id\":42}"};
+  const std::vector<std::string> ids = {"12.0",
+                                        "1e2",
+                                        "-0.0",
+                                        "9223372036854775808",
+                                        "99999999999999999999",
+                                        "-9223372036854775809",
+                                        "null",
+                                        "true",
+                                        "[]",
+                                        "[42]",
+                                        "{}",
+                                        "{\"id\":42}"};
   for (const std::string& id : ids) {
     for (const Provider& provider : kNumbered) {
       const std::string rest = "rsResInfoType: " + std::to_string(provider.infoType);
@@ -140,8 +150,9 @@ TEST(CompleteForm, OfAStockItemWithoutAnIdHasNoIdAndNoSlug) {
       inside(info).setIntValue("rsResId", 7);
       inside(info).setStringValue("rsResStockMediaStrId", "8");
       EXPECT_EQ(readRecord(info, "{\"id\":" + id + "}", provider.infoType), 0);
-      EXPECT_EQ(show(info), "{rsResId: 7, " + rest + ", rsResSlug: \"old\", rsResStockMediaStrId: \"8\", " +
-                                subType + ", rsResType: 25}");
+      EXPECT_EQ(show(info), "{rsResId: 7, " + rest +
+                                ", rsResSlug: \"old\", rsResStockMediaStrId: \"8\", " + subType +
+                                ", rsResType: 25}");
     }
   }
 }
@@ -159,8 +170,9 @@ TEST(CompleteForm, OfGiphyHasNoSlugOfItsId) {
     const char* record;
     const char* expected;
   } rows[] = {
-      {"{\"id\":42}", "1001 {rsResId: 42, rsResInfoType: 107, rsResStockMediaStrId: \"42\", "
-                      "rsResSubType: 1, rsResType: 25}"},
+      {"{\"id\":42}",
+       "1001 {rsResId: 42, rsResInfoType: 107, rsResStockMediaStrId: \"42\", "
+       "rsResSubType: 1, rsResType: 25}"},
       {"{\"id\":42,\"slug\":5}",
        "1001 {rsResId: 42, rsResInfoType: 107, rsResStockMediaStrId: \"42\", rsResSubType: 1, "
        "rsResType: 25}"},
@@ -274,10 +286,10 @@ TEST(CompleteForm, LetsTheTextReplaceTheInfoTypeOfSevenAndSixAlone) {
 
 // On purpose the pack id of a full record is a text, and never makes a pack valid.
 TEST(CompleteForm, OfAPackIsNotValidByItsOwnPackId) {
-  EXPECT_EQ(afterReadingRecord(
-                "{\"slug\":\"a\",\"type\":3,\"pack_id\":\"12\",\"pack_name\":\"p\"}", 6),
-            "1001 {rsResInfoType: 6, rsResPackId: \"12\", rsResPackSlug: \"p\", "
-            "rsResSlug: \"a\", rsResType: 3}");
+  EXPECT_EQ(
+      afterReadingRecord("{\"slug\":\"a\",\"type\":3,\"pack_id\":\"12\",\"pack_name\":\"p\"}", 6),
+      "1001 {rsResInfoType: 6, rsResPackId: \"12\", rsResPackSlug: \"p\", "
+      "rsResSlug: \"a\", rsResType: 3}");
   EXPECT_EQ(afterReadingRecord("{\"slug\":\"a\",\"type\":3,\"pack_id\":12,\"pack_name\":\"p\"}", 6),
             "1001 {rsResInfoType: 6, rsResPackSlug: \"p\", rsResSlug: \"a\", rsResType: 3}");
   const Held<Info> info = newInfo();
@@ -289,8 +301,8 @@ TEST(CompleteForm, OfAPackIsNotValidByItsOwnPackId) {
 
 TEST(CompleteForm, OfASingleResourceKeepsItsPackAsTextsThatAreNotWritten) {
   const Held<Info> info = newInfo();
-  EXPECT_EQ(readRecord(info, "{\"slug\":\"a\",\"type\":3,\"pack_id\":\"12\",\"pack_name\":\"p\"}", 7),
-            0);
+  EXPECT_EQ(
+      readRecord(info, "{\"slug\":\"a\",\"type\":3,\"pack_id\":\"12\",\"pack_name\":\"p\"}", 7), 0);
   ZOL::_Property packId{};
   EXPECT_EQ(info->getProperty("rsResPackId", &packId), 0);
   EXPECT_EQ(show(packId), "text \"12\"");

@@ -59,7 +59,8 @@ inline std::string show(Info* info) {
   }
   const Held<InfoList> related = newInfoList();
   if (inside(info).relatedResList(related.get()) != ZOL::kSuccess) add("related", "refused");
-  if (related->size() > 0) add("related", showBy(*related, [](Info* entry) { return show(entry); }));
+  if (related->size() > 0)
+    add("related", showBy(*related, [](Info* entry) { return show(entry); }));
   return "{" + text + "}";
 }
 

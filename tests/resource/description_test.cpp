@@ -298,8 +298,8 @@ Needs needsOf(long long infoType) {
 
 // Each info type with each choice of the other properties.
 TEST(DescriptionValidity, FollowsFromTheInfoType) {
-  std::vector<long long> infoTypes = {LLONG_MIN, LLONG_MAX, 4294967296LL + 6, 4294967296LL + 7,
-                                      4294967296LL + 101, 4294967296LL + 1007};
+  std::vector<long long> infoTypes = {LLONG_MIN,        LLONG_MAX,          4294967296LL + 6,
+                                      4294967296LL + 7, 4294967296LL + 101, 4294967296LL + 1007};
   for (long long code = -3; code <= 130; ++code) infoTypes.push_back(code);
   for (long long code = 1000; code <= 1010; ++code) infoTypes.push_back(code);
   int valid = 0;
@@ -316,13 +316,12 @@ TEST(DescriptionValidity, FollowsFromTheInfoType) {
             // One of both at a time: the other would do no harm.
             inside(info).setIntValue(infoType == 6 ? "rsResPackId" : "rsResId", number);
             const Needs needs = needsOf(infoType);
-            const bool expected =
-                *slug != '\0' && type != -1 && needs != Needs::never &&
-                (needs != Needs::packAndType || (number >= 1 && type != 0)) &&
-                (needs != Needs::id || number >= 1) && (needs != Needs::stockId || *stockId != '\0');
+            const bool expected = *slug != '\0' && type != -1 && needs != Needs::never &&
+                                  (needs != Needs::packAndType || (number >= 1 && type != 0)) &&
+                                  (needs != Needs::id || number >= 1) &&
+                                  (needs != Needs::stockId || *stockId != '\0');
             valid += expected;
-            EXPECT_EQ(info->isValid(), expected)
-                << show(info) << " of info type " << infoType;
+            EXPECT_EQ(info->isValid(), expected) << show(info) << " of info type " << infoType;
           }
         }
       }
@@ -392,11 +391,16 @@ TEST(DescriptionKey, CutsNumbersToTheirLow32Bits) {
     long long number;
     const char* printed;
   } rows[] = {
-      {2147483647, "2147483647"},      {2147483648, "-2147483648"},
-      {4294967295, "-1"},              {4294967296, "0"},
-      {4294967299, "3"},               {-2147483648LL, "-2147483648"},
-      {-2147483649LL, "2147483647"},   {-4294967297LL, "-1"},
-      {LLONG_MAX, "-1"},               {LLONG_MIN, "0"},
+      {2147483647, "2147483647"},
+      {2147483648, "-2147483648"},
+      {4294967295, "-1"},
+      {4294967296, "0"},
+      {4294967299, "3"},
+      {-2147483648LL, "-2147483648"},
+      {-2147483649LL, "2147483647"},
+      {-4294967297LL, "-1"},
+      {LLONG_MAX, "-1"},
+      {LLONG_MIN, "0"},
   };
   for (const auto& row : rows) {
     const Held<Info> info = newInfo();
@@ -404,8 +408,8 @@ TEST(DescriptionKey, CutsNumbersToTheirLow32Bits) {
     inside(info).setIntValue("rsResType", row.number);
     EXPECT_EQ(info->uniqueKey(), "s_res_type_" + std::string(row.printed) + "_info_type_0");
     inside(info).setIntValue("rsResInfoType", row.number);
-    EXPECT_EQ(info->uniqueKey(), "s_res_type_" + std::string(row.printed) + "_info_type_" +
-                                     std::string(row.printed));
+    EXPECT_EQ(info->uniqueKey(),
+              "s_res_type_" + std::string(row.printed) + "_info_type_" + std::string(row.printed));
   }
 }
 

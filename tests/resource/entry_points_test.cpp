@@ -87,8 +87,8 @@ TEST(EntryPoints, MakeADescriptionOfAFullRecord) {
 TEST(EntryPoints, MakeNothingOfAnInfoTypeThatReadsNothing) {
   for (const int infoType : {INT_MIN, -1, 0, 5, 105, 110, 111, INT_MAX}) {
     for (const char* const text :
-         {"{\"slug\":\"a\",\"type\":1}", "{\"id\":42}", "{\"name\":\"a\",\"res_type\":1,\"infoType\":7}",
-          "{\"res_id\":9,\"res_type\":2}"}) {
+         {"{\"slug\":\"a\",\"type\":1}", "{\"id\":42}",
+          "{\"name\":\"a\",\"res_type\":1,\"infoType\":7}", "{\"res_id\":9,\"res_type\":2}"}) {
       EXPECT_EQ(show(fromRecord(text, infoType)), "null") << infoType;
     }
   }
@@ -167,8 +167,8 @@ TEST(TextsToDescriptions, TakeSlugTypeAndInfoTypeForTheKey) {
 }
 
 TEST(TextsToDescriptions, TakeTheNormalFormAlone) {
-  const Held<ZOL::ZOLPCharList> texts =
-      textList({"{\"slug\":\"a\",\"type\":1}", "", "null", "{\"id\":42}", "[]", "{\"name\":\"a\"}"});
+  const Held<ZOL::ZOLPCharList> texts = textList(
+      {"{\"slug\":\"a\",\"type\":1}", "", "null", "{\"id\":42}", "[]", "{\"name\":\"a\"}"});
   const Held<InfoList> out = newInfoList();
   EXPECT_EQ(resInfoStr2SerializeList(texts.get(), out.get()), 0);
   EXPECT_EQ(out->size(), 0);
@@ -198,9 +198,9 @@ TEST(TextsToDescriptions, KeepTheOrderOfTwentyThousandTexts) {
   EXPECT_GT(expected.size(), 7000u);
   for (std::size_t i = 0; i < expected.size(); ++i) {
     auto& info = inside(out->at(static_cast<long long>(i)));
-    ASSERT_EQ(info.stringValue("rsResSlug") + std::string(" ") +
-                  std::to_string(info.intValue("rsResId")),
-              expected[i]);
+    ASSERT_EQ(
+        info.stringValue("rsResSlug") + std::string(" ") + std::to_string(info.intValue("rsResId")),
+        expected[i]);
   }
   EXPECT_EQ(texts->size(), kTexts);
 }

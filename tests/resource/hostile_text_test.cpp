@@ -17,9 +17,9 @@ constexpr std::size_t kLevels = 1000000;
 
 // A million levels of arrays, and of objects.
 const std::vector<std::string>& nests() {
-  static const std::vector<std::string> nests = {times(kLevels, "[") + times(kLevels, "]"),
-                                                 times(kLevels, "{\"\":") + "0" +
-                                                     times(kLevels, "}")};
+  static const std::vector<std::string> nests = {
+      times(kLevels, "[") + times(kLevels, "]"),
+      times(kLevels, "{\"\":") + "0" + times(kLevels, "}")};
   return nests;
 }
 
@@ -86,9 +86,10 @@ constexpr const char* kNoUserStrings =
     "\"vst3_plugin_name\":\"\"}";
 
 TEST(HostileNest, GoesWithAGroupThatIsWrittenAnew) {
-  const std::string entry = "{\"id\":5,\"related_res_list\":[{\"rsResSlug\":\"b\",\"rsResType\":3,"
-                            "\"user_string\":" +
-                            std::string(kNoUserStrings) + "}],\"user_string\":{}}";
+  const std::string entry =
+      "{\"id\":5,\"related_res_list\":[{\"rsResSlug\":\"b\",\"rsResType\":3,"
+      "\"user_string\":" +
+      std::string(kNoUserStrings) + "}],\"user_string\":{}}";
   const struct {
     std::string read;
     std::string written;
@@ -147,8 +148,9 @@ TEST(HostileNest, IsCopiedRelatedAndMadeByTheFactories) {
 TEST(HostileNest, IsPassedOverInAFullRecord) {
   for (const std::string& nest : nests()) {
     onSmallStack([&] {
-      const std::string record = "{\"x\":" + nest + ",\"id\":42,\"res_id\":9,\"res_type\":2,\"slug\":" +
-                                 "\"a\",\"pack_id\":" + nest + "}";
+      const std::string record =
+          "{\"x\":" + nest +
+          ",\"id\":42,\"res_id\":9,\"res_type\":2,\"slug\":" + "\"a\",\"pack_id\":" + nest + "}";
       for (const int infoType : {7, 106, 1007}) {
         EXPECT_EQ(readRecord(newInfo(), record, infoType), 0) << infoType;
       }
@@ -197,10 +199,12 @@ TEST(HostileNest, ThatNeverEndsIsRefused) {
 
 TEST(HostileNest, ThatIsClosedOnceTooOftenOrWronglyIsRefused) {
   onSmallStack([] {
-    EXPECT_EQ(afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels - 1, "]") + "}"),
-              "1001 {}");
-    EXPECT_EQ(afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels + 1, "]") + "}"),
-              "1001 {}");
+    EXPECT_EQ(
+        afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels - 1, "]") + "}"),
+        "1001 {}");
+    EXPECT_EQ(
+        afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels + 1, "]") + "}"),
+        "1001 {}");
     EXPECT_EQ(afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels, "}") + "}"),
               "1001 {}");
   });
@@ -233,8 +237,8 @@ TEST(HostileSize, OfMembersIsWrittenAgain) {
 }
 
 TEST(HostileSize, OfARelatedListIsReadAndWritten) {
-  const std::string entry = "{\"rsResSlug\":\"b\",\"rsResType\":3,\"user_string\":" +
-                            std::string(kNoUserStrings) + "}";
+  const std::string entry =
+      "{\"rsResSlug\":\"b\",\"rsResType\":3,\"user_string\":" + std::string(kNoUserStrings) + "}";
   std::string list = entry;
   for (int i = 1; i < 10000; ++i) list += "," + entry;
   const std::string text = "{\"id\":5,\"related_res_list\":[" + list + "],\"user_string\":{}}";
@@ -244,22 +248,50 @@ TEST(HostileSize, OfARelatedListIsReadAndWritten) {
 // Numbers.
 
 const std::vector<std::string>& edgeNumbers() {
-  static const std::vector<std::string> numbers = {
-      "-0", "0", "1", "-1", "-0.0", "0e0", "1.0", "1e0", "4294967296", "9223372036854775807",
-      "9223372036854775808", "-9223372036854775808", "-9223372036854775809",
-      "18446744073709551615", "18446744073709551616", "12345678901234567890",
-      "99999999999999999999", "-99999999999999999999", "1.0000000000e-2147483639",
-      "1.0000000000e-99999999999999999999", "1.7976931348623157e308", "1.7976931348623159e308",
-      "-1.7976931348623159e308", "4.9e-324", "1e-400", "0.1e308", times(308, "9"),
-      "-" + times(308, "9") + ".5", "0." + times(2000, "9")};
+  static const std::vector<std::string> numbers = {"-0",
+                                                   "0",
+                                                   "1",
+                                                   "-1",
+                                                   "-0.0",
+                                                   "0e0",
+                                                   "1.0",
+                                                   "1e0",
+                                                   "4294967296",
+                                                   "9223372036854775807",
+                                                   "9223372036854775808",
+                                                   "-9223372036854775808",
+                                                   "-9223372036854775809",
+                                                   "18446744073709551615",
+                                                   "18446744073709551616",
+                                                   "12345678901234567890",
+                                                   "99999999999999999999",
+                                                   "-99999999999999999999",
+                                                   "1.0000000000e-2147483639",
+                                                   "1.0000000000e-99999999999999999999",
+                                                   "1.7976931348623157e308",
+                                                   "1.7976931348623159e308",
+                                                   "-1.7976931348623159e308",
+                                                   "4.9e-324",
+                                                   "1e-400",
+                                                   "0.1e308",
+                                                   times(308, "9"),
+                                                   "-" + times(308, "9") + ".5",
+                                                   "0." + times(2000, "9")};
   return numbers;
 }
 
 // No double is that large: such a number is an error of the text, wherever it stands.
 const std::vector<std::string>& tooLargeNumbers() {
-  static const std::vector<std::string> numbers = {
-      "1e309", "-1e309", "1e400", "-1e400", "1E+999999999999", "0e400", "10.5e400",
-      times(310, "9"), "-" + times(400, "9"), times(2000, "1") + ".5"};
+  static const std::vector<std::string> numbers = {"1e309",
+                                                   "-1e309",
+                                                   "1e400",
+                                                   "-1e400",
+                                                   "1E+999999999999",
+                                                   "0e400",
+                                                   "10.5e400",
+                                                   times(310, "9"),
+                                                   "-" + times(400, "9"),
+                                                   times(2000, "1") + ".5"};
   return numbers;
 }
 

@@ -71,10 +71,11 @@ TEST(Merge, RefusesWhatIsNoDescriptionOfTheLibrary) {
 
 TEST(Merge, WithItselfLeavesEverythingAsItWas) {
   const Held<Info> info = newInfo();
-  ASSERT_EQ(readText(info, "{\"x\":1,\"name\":\"a\",\"res_type\":3,"
-                           "\"user_string\":{\"customRsMd5\":\"m\"},"
-                           "\"related_res_list\":[{\"rsResSlug\":\"b\",\"rsResType\":4},"
-                           "{\"rsResSlug\":\"b\",\"rsResType\":4}]}"),
+  ASSERT_EQ(readText(info,
+                     "{\"x\":1,\"name\":\"a\",\"res_type\":3,"
+                     "\"user_string\":{\"customRsMd5\":\"m\"},"
+                     "\"related_res_list\":[{\"rsResSlug\":\"b\",\"rsResType\":4},"
+                     "{\"rsResSlug\":\"b\",\"rsResType\":4}]}"),
             0);
   const std::string shown = show(info);
   const std::string text = written(info);
@@ -101,7 +102,8 @@ TEST(Merge, TakesTheRememberedTextOnlyIfThereIsNone) {
   readText(from, "{\"x\":1,\"name\":\"b\",\"res_type\":3}");
   const Held<Info> to = newInfo();
   EXPECT_EQ(merge(to, from), 0);
-  EXPECT_EQ(written(to), "{\"x\":1,\"name\":\"b\",\"res_type\":3,\"infoType\":7,\"user_string\":{}}");
+  EXPECT_EQ(written(to),
+            "{\"x\":1,\"name\":\"b\",\"res_type\":3,\"infoType\":7,\"user_string\":{}}");
   const Held<Info> other = newInfo();
   readText(other, "{\"y\":1,\"name\":\"c\"}");
   EXPECT_EQ(merge(other, from), 0);
@@ -109,7 +111,8 @@ TEST(Merge, TakesTheRememberedTextOnlyIfThereIsNone) {
             "{\"y\":1,\"name\":\"c\",\"infoType\":7,\"res_type\":3,\"user_string\":{}}");
   const Held<Info> empty = newInfo();
   EXPECT_EQ(merge(to, empty), 0);
-  EXPECT_EQ(written(to), "{\"x\":1,\"name\":\"b\",\"res_type\":3,\"infoType\":7,\"user_string\":{}}");
+  EXPECT_EQ(written(to),
+            "{\"x\":1,\"name\":\"b\",\"res_type\":3,\"infoType\":7,\"user_string\":{}}");
 }
 
 // Here, and only here, two lists hold the same objects: a second merge finds them.
@@ -119,9 +122,8 @@ TEST(Merge, SharesTheRelatedEntries) {
   const auto slugs = [](const Held<Info>& info) {
     const Held<InfoList> related = newInfoList();
     EXPECT_EQ(inside(info).relatedResList(related.get()), 0);
-    return showBy(*related, [](Info* entry) {
-      return std::string(inside(entry).stringValue("rsResSlug"));
-    });
+    return showBy(*related,
+                  [](Info* entry) { return std::string(inside(entry).stringValue("rsResSlug")); });
   };
   {
     const Held<Info> from = single("b");

@@ -211,8 +211,9 @@ class Documents {
 
   Dice& dice() { return dice_; }
   static const std::vector<std::string>& slugs() {
-    static const std::vector<std::string> slugs = {"a", "b", "a-slug", "", "caf\xC3\xA9", "\"q\"",
-                                                   "line\n", "\xFF\x80", std::string("x\0y", 3)};
+    static const std::vector<std::string> slugs = {"a",      "b",           "a-slug",
+                                                   "",       "caf\xC3\xA9", "\"q\"",
+                                                   "line\n", "\xFF\x80",    std::string("x\0y", 3)};
     return slugs;
   }
 

@@ -112,8 +112,8 @@ TEST(NormalFormWriting, EscapesTexts) {
 }
 
 TEST(NormalFormWriting, PassesInvalidUtf8Through) {
-  for (const char* const slug : {"\xFF", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF8\x88\x80\x80\x80",
-                                 "a\x80z", "\xFE\xFF"}) {
+  for (const char* const slug :
+       {"\xFF", "\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF8\x88\x80\x80\x80", "a\x80z", "\xFE\xFF"}) {
     const Held<Info> info = single(slug);
     EXPECT_EQ(written(info), "{\"infoType\":7,\"res_type\":3,\"name\":\"" + std::string(slug) +
                                  "\",\"user_string\":{}}");
@@ -184,7 +184,8 @@ TEST(NormalFormBase, KeepsMembersInPlaceAndReplacesTheirValues) {
   } rows[] = {
       {"{\"x\":1,\"name\":\"a\",\"y\":2}", "{\"x\":1,\"name\":\"a\",\"y\":2,\"user_string\":{}}"},
       // A value of the wrong type stays as it is.
-      {"{\"res_type\":\"3\",\"name\":\"a\"}", "{\"res_type\":\"3\",\"name\":\"a\",\"user_string\":{}}"},
+      {"{\"res_type\":\"3\",\"name\":\"a\"}",
+       "{\"res_type\":\"3\",\"name\":\"a\",\"user_string\":{}}"},
       {"{\"name\":5,\"id\":7}", "{\"name\":5,\"id\":7,\"user_string\":{}}"},
       {"{\"id\":7.0,\"name\":\"a\"}", "{\"id\":7.0,\"name\":\"a\",\"user_string\":{}}"},
       // A text is written as far as it was taken.
@@ -217,14 +218,37 @@ TEST(NormalFormBase, KeepsMembersInPlaceAndReplacesTheirValues) {
 
 // Whatever the number, its characters pass.
 TEST(NormalFormBase, KeepsUnknownNumbersAsTheyAreSpelt) {
-  const std::vector<std::string> numbers = {
-      "0", "-0", "0.0", "-0.0", "0e0", "0E+00", "1", "-1", "1.0", "1.50", "100000", "1e5", "1E5",
-      "1e+05", "1e-05", "1E-400", "1e-99999999999", "3.141592653589793238462643383279",
-      "9223372036854775807", "9223372036854775808", "18446744073709551616",
-      "12345678901234567890", "-12345678901234567890", "1e308", "1.7976931348623157e308",
-      "1.7976931348623159e308", "1.0000000000e-2147483639", "0." + times(3000, "12345"),
-      times(308, "9"), "-" + times(300, "7") + "." + times(1000, "3"),
-      "0." + times(1000, "0") + "1e300"};
+  const std::vector<std::string> numbers = {"0",
+                                            "-0",
+                                            "0.0",
+                                            "-0.0",
+                                            "0e0",
+                                            "0E+00",
+                                            "1",
+                                            "-1",
+                                            "1.0",
+                                            "1.50",
+                                            "100000",
+                                            "1e5",
+                                            "1E5",
+                                            "1e+05",
+                                            "1e-05",
+                                            "1E-400",
+                                            "1e-99999999999",
+                                            "3.141592653589793238462643383279",
+                                            "9223372036854775807",
+                                            "9223372036854775808",
+                                            "18446744073709551616",
+                                            "12345678901234567890",
+                                            "-12345678901234567890",
+                                            "1e308",
+                                            "1.7976931348623157e308",
+                                            "1.7976931348623159e308",
+                                            "1.0000000000e-2147483639",
+                                            "0." + times(3000, "12345"),
+                                            times(308, "9"),
+                                            "-" + times(300, "7") + "." + times(1000, "3"),
+                                            "0." + times(1000, "0") + "1e300"};
   for (const std::string& number : numbers) {
     const std::string members =
         "\"x\":" + number + ",\"y\":[" + number + ",{\"z\":" + number + "}],\"id\":1";
@@ -306,8 +330,7 @@ TEST(NormalFormBase, BringsRelatedEntriesBackThatWereRemoved) {
   EXPECT_EQ(inside(info).removeRelatedRes(nullptr), 0);
   EXPECT_EQ(show(info), "{rsResInfoType: 7, rsResSlug: \"a\", rsResType: 3}");
   const std::string text = written(info);
-  EXPECT_EQ(text,
-            "{\"name\":\"a\",\"res_type\":3,\"infoType\":7," + list + ",\"user_string\":{}}");
+  EXPECT_EQ(text, "{\"name\":\"a\",\"res_type\":3,\"infoType\":7," + list + ",\"user_string\":{}}");
   EXPECT_EQ(afterReading(text),
             "0 {rsResInfoType: 7, rsResSlug: \"a\", rsResType: 3, related: "
             "[{rsResInfoType: 7, rsResSlug: \"b\", rsResType: 3}, "
@@ -337,13 +360,27 @@ TEST(NormalFormBase, IsRememberedOfATextThatDoesNotMakeTheDescriptionValid) {
 // Reading.
 
 TEST(NormalFormReading, IsRefusedWithoutNameAndId) {
-  for (const char* const text :
-       {"{}", "{\"name\":\"\"}", "{\"name\":5}", "{\"name\":null}", "{\"id\":0}", "{\"id\":-0}",
-        "{\"id\":\"5\"}", "{\"id\":5.0}", "{\"id\":9223372036854775808}", "{\"id\":true}",
-        "{\"name\":\"\",\"id\":0}", "{\"name\":[\"a\"]}", "{\"Name\":\"a\",\"ID\":5}",
-        "{\"slug\":\"a\",\"type\":3}", "{\"name\":\"\\u0000a\"}", "{\"name\":\"\",\"name\":\"a\"}",
-        "{\"id\":0,\"id\":5}", "{\"x\":{\"name\":\"a\"}}", "{\"res_type\":3,\"infoType\":7}",
-        "{\"na\\u0000me\":\"a\"}", "{\"rsResSlug\":\"a\",\"rsResId\":5}"}) {
+  for (const char* const text : {"{}",
+                                 "{\"name\":\"\"}",
+                                 "{\"name\":5}",
+                                 "{\"name\":null}",
+                                 "{\"id\":0}",
+                                 "{\"id\":-0}",
+                                 "{\"id\":\"5\"}",
+                                 "{\"id\":5.0}",
+                                 "{\"id\":9223372036854775808}",
+                                 "{\"id\":true}",
+                                 "{\"name\":\"\",\"id\":0}",
+                                 "{\"name\":[\"a\"]}",
+                                 "{\"Name\":\"a\",\"ID\":5}",
+                                 "{\"slug\":\"a\",\"type\":3}",
+                                 "{\"name\":\"\\u0000a\"}",
+                                 "{\"name\":\"\",\"name\":\"a\"}",
+                                 "{\"id\":0,\"id\":5}",
+                                 "{\"x\":{\"name\":\"a\"}}",
+                                 "{\"res_type\":3,\"infoType\":7}",
+                                 "{\"na\\u0000me\":\"a\"}",
+                                 "{\"rsResSlug\":\"a\",\"rsResId\":5}"}) {
     EXPECT_EQ(afterReading(text), "1001 {}") << text;
     const Held<Info> valid = single("old");
     inside(valid).addRelatedRes(single("b").get());
@@ -362,13 +399,43 @@ TEST(NormalFormReading, TakesANameOrAnId) {
 }
 
 TEST(NormalFormReading, RefusesWhatIsNoObject) {
-  for (const char* const text :
-       {"", " ", "null", "true", "false", "12", "\"name\"", "[]", "[{\"id\":5}]", "{", "}",
-        "{\"id\":5", "{\"id\":5]", "{\"id\"}", "{\"id\":}", "{id:5}", "{'id':5}", "{\"id\" 5}",
-        "{\"id\":5,,}", "{,\"id\":5}", "{\"id\":5;}", "{\"id\":+5}", "{\"id\":05}", "{\"id\":0x5}",
-        "{\"id\":5.}", "{\"id\":.5}", "{\"id\":5e}", "{\"id\":nul}", "{\"id\":5/}", "/*{\"id\":5}",
-        "/ {\"id\":5}", "{\"id\":5,\"x\":\"}", "{\"id\":5,\"x\":\"\\x\"}",
-        "{\"id\":5,\"x\":\"\\u12\"}", "{\"id\":5,\"x\":tru}", "undefined", "\xFF{\"id\":5}"}) {
+  for (const char* const text : {"",
+                                 " ",
+                                 "null",
+                                 "true",
+                                 "false",
+                                 "12",
+                                 "\"name\"",
+                                 "[]",
+                                 "[{\"id\":5}]",
+                                 "{",
+                                 "}",
+                                 "{\"id\":5",
+                                 "{\"id\":5]",
+                                 "{\"id\"}",
+                                 "{\"id\":}",
+                                 "{id:5}",
+                                 "{'id':5}",
+                                 "{\"id\" 5}",
+                                 "{\"id\":5,,}",
+                                 "{,\"id\":5}",
+                                 "{\"id\":5;}",
+                                 "{\"id\":+5}",
+                                 "{\"id\":05}",
+                                 "{\"id\":0x5}",
+                                 "{\"id\":5.}",
+                                 "{\"id\":.5}",
+                                 "{\"id\":5e}",
+                                 "{\"id\":nul}",
+                                 "{\"id\":5/}",
+                                 "/*{\"id\":5}",
+                                 "/ {\"id\":5}",
+                                 "{\"id\":5,\"x\":\"}",
+                                 "{\"id\":5,\"x\":\"\\x\"}",
+                                 "{\"id\":5,\"x\":\"\\u12\"}",
+                                 "{\"id\":5,\"x\":tru}",
+                                 "undefined",
+                                 "\xFF{\"id\":5}"}) {
     EXPECT_EQ(afterReading(text), "1001 {}") << text;
   }
   const Held<Info> info = single("a");
@@ -405,8 +472,8 @@ TEST(NormalFormReading, ToleratesCommentsTrailingCommasAndWhatFollows) {
 }
 
 TEST(NormalFormReading, SkipsEachByteOfTheMarkThatStandsNext) {
-  for (const char* const mark : {"", "\xEF", "\xBB", "\xBF", "\xEF\xBB", "\xEF\xBF", "\xBB\xBF",
-                                 "\xEF\xBB\xBF"}) {
+  for (const char* const mark :
+       {"", "\xEF", "\xBB", "\xBF", "\xEF\xBB", "\xEF\xBF", "\xBB\xBF", "\xEF\xBB\xBF"}) {
     EXPECT_EQ(afterReading(mark + std::string("{\"id\":5}")), "1001 {rsResId: 5}") << escaped(mark);
   }
   for (const char* const mark : {"\xBB\xEF", "\xBF\xBB", "\xBF\xBB\xEF", "\xEF\xEF", "\xBB\xBB",
@@ -470,8 +537,7 @@ TEST(NormalFormReading, RefusesAFirstHalfOfASurrogatePairWithoutItsSecond) {
 
 TEST(NormalFormReading, LetsASecondHalfOfASurrogatePairPassByItself) {
   EXPECT_EQ(afterReading("{\"name\":\"\\udfac\"}"), "1001 {rsResSlug: \"\\xed\\xbe\\xac\"}");
-  EXPECT_EQ(rewritten("{\"name\":\"\\udfac\"}"),
-            "{\"name\":\"\xED\xBE\xAC\",\"user_string\":{}}");
+  EXPECT_EQ(rewritten("{\"name\":\"\\udfac\"}"), "{\"name\":\"\xED\xBE\xAC\",\"user_string\":{}}");
 }
 
 TEST(NormalFormReading, LooksAtTheLengthOfTheStringObject) {
@@ -550,9 +616,10 @@ TEST(NormalFormReading, OfExtensionInfoLooksIntoTheFirstElementAlone) {
 
 TEST(NormalFormReading, LetsPartsOfAGroupThatAreMissingStay) {
   const Held<Info> info = newInfo();
-  readText(info, "{\"id\":1,\"pack_info\":[{\"pack_id\":5,\"pack_name\":\"p\"}],"
-                 "\"extension_info\":[{\"openFx_sub_element_type\":3}],"
-                 "\"user_string\":{\"customRsMd5\":\"m\",\"vst3_plugin_name\":\"v\"}}");
+  readText(info,
+           "{\"id\":1,\"pack_info\":[{\"pack_id\":5,\"pack_name\":\"p\"}],"
+           "\"extension_info\":[{\"openFx_sub_element_type\":3}],"
+           "\"user_string\":{\"customRsMd5\":\"m\",\"vst3_plugin_name\":\"v\"}}");
   const std::string first =
       "{rsResId: 1, rsResOpenFxSubType: 3, rsResPackId: 5, rsResPackSlug: \"p\", "
       "rsiusCustomRsMd5: \"m\", rsiusVST3PluginName: \"v\"}";
@@ -561,8 +628,9 @@ TEST(NormalFormReading, LetsPartsOfAGroupThatAreMissingStay) {
   EXPECT_EQ(show(info), first);
   readText(info, "{\"id\":1,\"pack_info\":[],\"extension_info\":[{}],\"user_string\":{}}");
   EXPECT_EQ(show(info), first);
-  readText(info, "{\"id\":1,\"pack_info\":[{\"pack_name\":\"q\"}],\"extension_info\":[5],"
-                 "\"user_string\":{\"customRsMd5\":\"n\",\"vst3_plugin_name\":5}}");
+  readText(info,
+           "{\"id\":1,\"pack_info\":[{\"pack_name\":\"q\"}],\"extension_info\":[5],"
+           "\"user_string\":{\"customRsMd5\":\"n\",\"vst3_plugin_name\":5}}");
   EXPECT_EQ(show(info),
             "{rsResId: 1, rsResOpenFxSubType: 3, rsResPackId: 5, rsResPackSlug: \"q\", "
             "rsiusCustomRsMd5: \"n\", rsiusVST3PluginName: \"v\"}");
@@ -644,11 +712,13 @@ TEST(NormalFormReading, OfARelatedListReplacesTheEntriesAndWithoutOneKeepsThem) 
   EXPECT_EQ(readText(info, "{\"name\":\"a\"}"), 0);
   EXPECT_EQ(show(info), kept);
   for (const char* const noList : {"null", "{}", "5", "\"old\"", "{\"rsResSlug\":\"b\"}"}) {
-    EXPECT_EQ(readText(info, "{\"name\":\"a\",\"related_res_list\":" + std::string(noList) + "}"), 0);
+    EXPECT_EQ(readText(info, "{\"name\":\"a\",\"related_res_list\":" + std::string(noList) + "}"),
+              0);
     EXPECT_EQ(show(info), kept) << noList;
   }
-  EXPECT_EQ(readText(info, "{\"name\":\"a\",\"related_res_list\":[{\"rsResSlug\":\"b\","
-                           "\"rsResType\":4},{\"rsResSlug\":\"c\",\"rsResType\":5}]}"),
+  EXPECT_EQ(readText(info,
+                     "{\"name\":\"a\",\"related_res_list\":[{\"rsResSlug\":\"b\","
+                     "\"rsResType\":4},{\"rsResSlug\":\"c\",\"rsResType\":5}]}"),
             0);
   EXPECT_EQ(show(info),
             "{rsResInfoType: 7, rsResSlug: \"a\", rsResType: 3, related: "
@@ -687,7 +757,8 @@ TEST(NormalFormReading, DeducesTheInfoType) {
       {"\"name\":\"a\",\"res_type\":0", "0 {rsResInfoType: 7, rsResSlug: \"a\", rsResType: 0}"},
       {"\"name\":\"a\",\"res_type\":-2", "0 {rsResInfoType: 7, rsResSlug: \"a\", rsResType: -2}"},
       {"\"name\":\"a\",\"res_type\":3,\"pack_info\":[{\"pack_id\":5,\"pack_name\":\"p\"}]",
-       "0 {rsResInfoType: 6, rsResPackId: 5, rsResPackSlug: \"p\", rsResSlug: \"a\", rsResType: 3}"},
+       "0 {rsResInfoType: 6, rsResPackId: 5, rsResPackSlug: \"p\", rsResSlug: \"a\", rsResType: "
+       "3}"},
       {"\"name\":\"a\",\"res_type\":3,\"pack_info\":[{\"pack_id\":1}]",
        "0 {rsResInfoType: 6, rsResPackId: 1, rsResSlug: \"a\", rsResType: 3}"},
       {"\"name\":\"a\",\"res_type\":3,\"pack_info\":[{\"pack_id\":0}]",
@@ -731,9 +802,10 @@ TEST(NormalFormReading, DeducesTheInfoTypeOfAllThatIsHeld) {
 
 TEST(NormalFormReading, KeepsWhatItReadWhenTheDescriptionIsNotValid) {
   const Held<Info> info = newInfo();
-  EXPECT_EQ(readText(info, "{\"x\":1,\"name\":\"a\",\"sale_mode\":4,"
-                           "\"user_string\":{\"customRsMd5\":\"m\"},"
-                           "\"related_res_list\":[{\"rsResSlug\":\"b\",\"rsResType\":3}]}"),
+  EXPECT_EQ(readText(info,
+                     "{\"x\":1,\"name\":\"a\",\"sale_mode\":4,"
+                     "\"user_string\":{\"customRsMd5\":\"m\"},"
+                     "\"related_res_list\":[{\"rsResSlug\":\"b\",\"rsResType\":3}]}"),
             1001);
   EXPECT_EQ(show(info),
             "{rsResSaleMode: 4, rsResSlug: \"a\", rsiusCustomRsMd5: \"m\", related: "
@@ -747,11 +819,13 @@ TEST(NormalFormReading, KeepsWhatItReadWhenTheDescriptionIsNotValid) {
 
 TEST(NormalFormReading, OfASecondTextAddsAndReplaces) {
   const Held<Info> info = newInfo();
-  ASSERT_EQ(readText(info, "{\"x\":1,\"name\":\"a\",\"res_type\":3,\"sale_mode\":4,\"source\":5,"
-                           "\"related_slug\":\"r\",\"user_string\":{\"customRsMd5\":\"m\"}}"),
+  ASSERT_EQ(readText(info,
+                     "{\"x\":1,\"name\":\"a\",\"res_type\":3,\"sale_mode\":4,\"source\":5,"
+                     "\"related_slug\":\"r\",\"user_string\":{\"customRsMd5\":\"m\"}}"),
             0);
-  ASSERT_EQ(readText(info, "{\"y\":2,\"name\":\"b\",\"source\":6,\"resourceState\":7,"
-                           "\"user_string\":{\"vst3_plugin_name\":\"v\"}}"),
+  ASSERT_EQ(readText(info,
+                     "{\"y\":2,\"name\":\"b\",\"source\":6,\"resourceState\":7,"
+                     "\"user_string\":{\"vst3_plugin_name\":\"v\"}}"),
             0);
   EXPECT_EQ(show(info),
             "{rsResInfoType: 7, rsResRelatedSlug: \"r\", rsResSaleMode: 4, rsResSlug: \"b\", "

@@ -220,8 +220,7 @@ TEST(NormalFormMembers, ReplaceOnlyTheValueOfTheirOwnKind) {
       inside(info).setIntValue(row.key, 77);
       inside(info).setStringValue(row.key, "old");
       // Accepted for a member that is not the one in question.
-      const std::string pass =
-          row.jsonName == std::string("id") ? "\"name\":\"s\"" : "\"id\":5";
+      const std::string pass = row.jsonName == std::string("id") ? "\"name\":\"s\"" : "\"id\":5";
       readText(info, "{\"" + std::string(row.jsonName) + "\":" + one.value + "," + pass + "}");
       const std::string integer = row.travels == Travels::asInteger ? one.asInteger : "77";
       const std::string text = row.travels == Travels::asText ? one.asText : "old";
@@ -300,8 +299,7 @@ TEST(NormalFormMembers, AreWrittenAsATextWhenBothAreHeld) {
     const bool isSlug = std::string(row.key) == "rsResSlug";
     if (!isId && !isSlug) inside(info).setIntValue("rsResId", 9);
     const std::string id = isId || isSlug ? "" : "\"id\":9,";
-    EXPECT_EQ(written(info),
-              "{" + id + "\"" + row.jsonName + "\":\"t\",\"user_string\":{}}")
+    EXPECT_EQ(written(info), "{" + id + "\"" + row.jsonName + "\":\"t\",\"user_string\":{}}")
         << row.key;
   }
 }
@@ -310,8 +308,7 @@ TEST(NormalFormMembers, OfUserStringsAreCalledAsTheTableSays) {
   for (const UserStringRow& row : kUserStringRows) {
     const std::string text =
         "{\"id\":5,\"user_string\":{\"" + std::string(row.jsonName) + "\":\"a\"}}";
-    EXPECT_EQ(afterReading(text),
-              "1001 {rsResId: 5, " + std::string(row.key) + ": \"a\"}");
+    EXPECT_EQ(afterReading(text), "1001 {rsResId: 5, " + std::string(row.key) + ": \"a\"}");
     EXPECT_EQ(rewritten(text), text);
     EXPECT_EQ(afterReading("{\"id\":5,\"user_string\":{\"" + std::string(row.key) + "\":\"a\"}}"),
               "1001 {rsResId: 5}");

@@ -143,9 +143,10 @@ TEST(RelatedRes, HoldsACopyAndNeverTheCallersObject) {
 
 TEST(RelatedRes, HoldsAllThatTheTextCarries) {
   const Held<Info> entry = newInfo();
-  readText(entry, "{\"x\":1,\"name\":\"b\",\"res_type\":4,\"sale_mode\":2,\"id\":9,"
-                  "\"user_string\":{\"customRsMd5\":\"m\"},"
-                  "\"related_res_list\":[{\"rsResSlug\":\"c\",\"rsResType\":5}]}");
+  readText(entry,
+           "{\"x\":1,\"name\":\"b\",\"res_type\":4,\"sale_mode\":2,\"id\":9,"
+           "\"user_string\":{\"customRsMd5\":\"m\"},"
+           "\"related_res_list\":[{\"rsResSlug\":\"c\",\"rsResType\":5}]}");
   inside(entry).setHostData(5);
   const Held<Info> info = single("a");
   EXPECT_EQ(inside(info).addRelatedRes(entry.get()), 0);
@@ -191,8 +192,8 @@ TEST(RelatedRes, RemovesAllEntriesWithTheSameUserStrings) {
 
 TEST(RelatedRes, ComparesEachOfTheFourUserStrings) {
   const std::vector<std::vector<std::string>> sets = {
-      {"-", "-", "-", "-"}, {"u", "-", "-", "-"}, {"-", "u", "-", "-"}, {"-", "-", "u", "-"},
-      {"-", "-", "-", "u"}, {"u", "u", "u", "u"}, {"u", "u", "u", "v"}, {"v", "u", "u", "u"},
+      {"-", "-", "-", "-"}, {"u", "-", "-", "-"},  {"-", "u", "-", "-"},    {"-", "-", "u", "-"},
+      {"-", "-", "-", "u"}, {"u", "u", "u", "u"},  {"u", "u", "u", "v"},    {"v", "u", "u", "u"},
       {"U", "-", "-", "-"}, {"ux", "-", "-", "-"}, {"\x80", "-", "-", "-"}, {"\x7F", "-", "-", "-"},
   };
   for (std::size_t gone = 0; gone < sets.size(); ++gone) {
@@ -224,7 +225,8 @@ TEST(RelatedRes, KeepsTheOrderOfWhatStays) {
   const struct {
     const char* slug;
     const char* userString;
-  } entries[] = {{"1", "x"}, {"2", "y"}, {"3", "x"}, {"4", "x"}, {"5", "y"}, {"6", "z"}, {"7", "x"}};
+  } entries[] = {{"1", "x"}, {"2", "y"}, {"3", "x"}, {"4", "x"},
+                 {"5", "y"}, {"6", "z"}, {"7", "x"}};
   for (const auto& entry : entries) {
     inside(info).addRelatedRes(withUserStrings(entry.slug, {"-", entry.userString}).get());
   }
@@ -298,11 +300,12 @@ TEST(RelatedResList, OutlivesTheDescription) {
 // is valid, and the copy of it is not.
 TEST(RelatedResList, StopsAtACopyThatFailsAndKeepsWhatItAdded) {
   const Held<Info> entry = newInfo();
-  ASSERT_EQ(readText(entry, "{\"infoType\":6,\"name\":\"b\",\"res_type\":3,"
-                            "\"pack_info\":[{\"pack_id\":5,\"pack_name\":\"p\"}],"
-                            "\"user_string\":{},\"pack_info\":[],"
-                            "\"extension_info\":[{\"openFx_sub_element_type\":1}],"
-                            "\"related_res_list\":[{\"rsResSlug\":\"r\",\"rsResType\":1}]}"),
+  ASSERT_EQ(readText(entry,
+                     "{\"infoType\":6,\"name\":\"b\",\"res_type\":3,"
+                     "\"pack_info\":[{\"pack_id\":5,\"pack_name\":\"p\"}],"
+                     "\"user_string\":{},\"pack_info\":[],"
+                     "\"extension_info\":[{\"openFx_sub_element_type\":1}],"
+                     "\"related_res_list\":[{\"rsResSlug\":\"r\",\"rsResType\":1}]}"),
             0);
   const Held<Info> info = single("a");
   EXPECT_EQ(inside(info).addRelatedRes(single("first").get()), 0);

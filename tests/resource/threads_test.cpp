@@ -41,8 +41,7 @@ std::function<void()> rounds(std::function<void(int round)> work, int count = kR
 std::string allOf(char letter) { return std::string(700, letter); }
 
 bool isOneOf(const std::string& text, const std::string& letters) {
-  return text.size() == 700 && letters.find(text[0]) != std::string::npos &&
-         text == allOf(text[0]);
+  return text.size() == 700 && letters.find(text[0]) != std::string::npos && text == allOf(text[0]);
 }
 
 std::string textProperty(Info* info, const char* key) {
@@ -75,16 +74,18 @@ TEST(Threads, LoseNoPropertyThatOneOfThemSets) {
   const Held<Info> info = newInfo();
   std::vector<std::function<void()>> works;
   for (std::size_t first = 0; first < 4; ++first) {
-    works.push_back(rounds([&info, first](int round) {
-      for (std::size_t i = first; i < 26; i += 4) {
-        EXPECT_EQ(inside(info).setIntValue(kPropertyRows[i].key, round), 0);
-        EXPECT_EQ(inside(info).intValue(kPropertyRows[i].key), round);
-        EXPECT_EQ(inside(info).setStringValue(kPropertyRows[i].key, "text"), 0);
-        EXPECT_STREQ(inside(info).stringValue(kPropertyRows[i].key), "text");
-      }
-      EXPECT_EQ(info->setUserString(kUserStringRows[first].key, "user"), 0);
-      EXPECT_STREQ(info->userString(kUserStringRows[first].key), "user");
-    }, kRounds / 2));
+    works.push_back(rounds(
+        [&info, first](int round) {
+          for (std::size_t i = first; i < 26; i += 4) {
+            EXPECT_EQ(inside(info).setIntValue(kPropertyRows[i].key, round), 0);
+            EXPECT_EQ(inside(info).intValue(kPropertyRows[i].key), round);
+            EXPECT_EQ(inside(info).setStringValue(kPropertyRows[i].key, "text"), 0);
+            EXPECT_STREQ(inside(info).stringValue(kPropertyRows[i].key), "text");
+          }
+          EXPECT_EQ(info->setUserString(kUserStringRows[first].key, "user"), 0);
+          EXPECT_STREQ(info->userString(kUserStringRows[first].key), "user");
+        },
+        kRounds / 2));
   }
   together(works);
   std::string expected;
@@ -126,13 +127,11 @@ TEST(Threads, CheckADescriptionWhoseSlugChanges) {
   const Held<Info> info = single(allOf('a'));
   const std::string text = "{\"name\":\"" + allOf('b') + "\",\"res_type\":3}";
   const Held<Info> parent = single("parent");
-  together({rounds([&](int) { EXPECT_EQ(readText(info, text), 0); }),
-            rounds([&](int round) {
+  together({rounds([&](int) { EXPECT_EQ(readText(info, text), 0); }), rounds([&](int round) {
               const std::string slug = allOf(round % 2 == 0 ? 'c' : 'd');
               EXPECT_EQ(inside(info).setStringValue("rsResSlug", slug.c_str()), 0);
             }),
-            rounds([&](int) { EXPECT_TRUE(info->isValid()); }),
-            rounds([&](int) {
+            rounds([&](int) { EXPECT_TRUE(info->isValid()); }), rounds([&](int) {
               EXPECT_EQ(inside(parent).addRelatedRes(info.get()), 0);
               EXPECT_EQ(inside(parent).removeRelatedRes(info.get()), 0);
               EXPECT_FALSE(parent->isEmpty());
@@ -164,18 +163,22 @@ TEST(Threads, LoseNoRelatedEntry) {
   std::vector<std::function<void()>> works;
   constexpr int kEntries = 150;
   for (int thread = 0; thread < 3; ++thread) {
-    works.push_back(rounds([&parent, thread](int round) {
-      const Held<Info> entry = single(std::to_string(thread) + "-" + std::to_string(round));
-      EXPECT_EQ(inside(parent).addRelatedRes(entry.get()), 0);
-    }, kEntries));
+    works.push_back(rounds(
+        [&parent, thread](int round) {
+          const Held<Info> entry = single(std::to_string(thread) + "-" + std::to_string(round));
+          EXPECT_EQ(inside(parent).addRelatedRes(entry.get()), 0);
+        },
+        kEntries));
   }
   // And one that is added and goes again.
-  works.push_back(rounds([&parent](int) {
-    const Held<Info> guest = single("guest");
-    guest->setUserString("rsiusCustomRsMd5", "guest");
-    EXPECT_EQ(inside(parent).addRelatedRes(guest.get()), 0);
-    EXPECT_EQ(inside(parent).removeRelatedRes(guest.get()), 0);
-  }, kEntries));
+  works.push_back(rounds(
+      [&parent](int) {
+        const Held<Info> guest = single("guest");
+        guest->setUserString("rsiusCustomRsMd5", "guest");
+        EXPECT_EQ(inside(parent).addRelatedRes(guest.get()), 0);
+        EXPECT_EQ(inside(parent).removeRelatedRes(guest.get()), 0);
+      },
+      kEntries));
   together(works);
   const Held<InfoList> related = newInfoList();
   EXPECT_EQ(inside(parent).relatedResList(related.get()), 0);
@@ -203,29 +206,38 @@ TEST(Threads, DoAllThingsWithOneDescription) {
   together({
       rounds([&](int round) { EXPECT_EQ(inside(info).setIntValue("rsResState", round), 0); }),
       rounds([&](int) { EXPECT_EQ(readText(info, text), 0); }, kRounds / 4),
-      rounds([&](int) {
-        const std::string now = written(info);
-        const Held<Info> back(createZolResSerializeInfoFromBuffer(now.c_str()));
-        EXPECT_NE(back.get(), nullptr) << now;
-      }, kRounds / 10),
-      rounds([&](int round) {
-        EXPECT_EQ(inside(info).addRelatedRes(entry.get()), 0);
-        Info* const gone = round % 2 == 0 ? entry.get() : nullptr;
-        EXPECT_EQ(inside(info).removeRelatedRes(gone), 0);
-      }, kRounds / 4),
-      rounds([&](int) {
-        const Held<InfoList> related = newInfoList();
-        EXPECT_EQ(inside(info).relatedResList(related.get()), 0);
-        for (long long i = 0; i < related->size(); ++i) {
-          EXPECT_TRUE(related->at(i)->isValid());
-        }
-      }, kRounds / 20),
-      rounds([&](int round) {
-        info->addRef();
-        EXPECT_EQ(info->setUserString("rsiusVST3PluginName", std::to_string(round).c_str()), 0);
-        EXPECT_EQ(readRecord(info, "{\"resource_origin_id\":" + std::to_string(round) + "}", 7), 0);
-        info->release();
-      }, kRounds / 4),
+      rounds(
+          [&](int) {
+            const std::string now = written(info);
+            const Held<Info> back(createZolResSerializeInfoFromBuffer(now.c_str()));
+            EXPECT_NE(back.get(), nullptr) << now;
+          },
+          kRounds / 10),
+      rounds(
+          [&](int round) {
+            EXPECT_EQ(inside(info).addRelatedRes(entry.get()), 0);
+            Info* const gone = round % 2 == 0 ? entry.get() : nullptr;
+            EXPECT_EQ(inside(info).removeRelatedRes(gone), 0);
+          },
+          kRounds / 4),
+      rounds(
+          [&](int) {
+            const Held<InfoList> related = newInfoList();
+            EXPECT_EQ(inside(info).relatedResList(related.get()), 0);
+            for (long long i = 0; i < related->size(); ++i) {
+              EXPECT_TRUE(related->at(i)->isValid());
+            }
+          },
+          kRounds / 20),
+      rounds(
+          [&](int round) {
+            info->addRef();
+            EXPECT_EQ(info->setUserString("rsiusVST3PluginName", std::to_string(round).c_str()), 0);
+            EXPECT_EQ(readRecord(info, "{\"resource_origin_id\":" + std::to_string(round) + "}", 7),
+                      0);
+            info->release();
+          },
+          kRounds / 4),
   });
   EXPECT_EQ(inside(info).removeRelatedRes(nullptr), 0);
   EXPECT_EQ(show(info),
@@ -242,12 +254,14 @@ TEST(Threads, CopyTwoDescriptionsFromEachOther) {
   const Held<Info> two = single(allOf('b'));
   one->setUserString("rsiusCustomRsMd5", "one");
   const auto copyAndRelate = [](const Held<Info>& to, const Held<Info>& from) {
-    return rounds([&to, &from](int) {
-      EXPECT_EQ(to->copyFrom(from.get()), 0);
-      EXPECT_EQ(inside(to).addRelatedRes(from.get()), 0);
-      EXPECT_EQ(inside(to).addRelatedRes(to.get()), 0);
-      EXPECT_EQ(readText(to, "{\"id\":5,\"related_res_list\":[]}"), 0);
-    }, kRounds / 10);
+    return rounds(
+        [&to, &from](int) {
+          EXPECT_EQ(to->copyFrom(from.get()), 0);
+          EXPECT_EQ(inside(to).addRelatedRes(from.get()), 0);
+          EXPECT_EQ(inside(to).addRelatedRes(to.get()), 0);
+          EXPECT_EQ(readText(to, "{\"id\":5,\"related_res_list\":[]}"), 0);
+        },
+        kRounds / 10);
   };
   together({copyAndRelate(one, two), copyAndRelate(two, one)});
   for (const Held<Info>* const info : {&one, &two}) {
@@ -288,13 +302,15 @@ TEST(Threads, AskWhetherItIsEmptyAndForTheHostsWordWithoutTheLock) {
             rounds([&](int round) {
               inside(info).setHostData(static_cast<std::uintptr_t>(round) * 0x100000001U);
             }),
-            rounds([&](int) {
-              const bool before = set;
-              emptyAgain += before && info->isEmpty();
-              const std::uintptr_t word = inside(info).hostData();
-              wrongWords += word % 0x100000001U != 0 || word < largest;
-              largest = word;
-            }, kRounds * 4)});
+            rounds(
+                [&](int) {
+                  const bool before = set;
+                  emptyAgain += before && info->isEmpty();
+                  const std::uintptr_t word = inside(info).hostData();
+                  wrongWords += word % 0x100000001U != 0 || word < largest;
+                  largest = word;
+                },
+                kRounds * 4)});
   EXPECT_EQ(emptyAgain, 0);
   EXPECT_EQ(wrongWords, 0);
   EXPECT_FALSE(info->isEmpty());
@@ -304,24 +320,28 @@ TEST(Threads, AskWhetherItIsEmptyAndForTheHostsWordWithoutTheLock) {
 TEST(Threads, AskWhetherItIsEmptyWhileEntriesComeAndGo) {
   const Held<Info> info = newInfo();
   const Held<Info> entry = single("a");
-  together({rounds([&](int) {
-              EXPECT_EQ(inside(info).addRelatedRes(entry.get()), 0);
-              EXPECT_EQ(inside(info).removeRelatedRes(nullptr), 0);
-            }, kRounds / 2),
+  together({rounds(
+                [&](int) {
+                  EXPECT_EQ(inside(info).addRelatedRes(entry.get()), 0);
+                  EXPECT_EQ(inside(info).removeRelatedRes(nullptr), 0);
+                },
+                kRounds / 2),
             rounds([&](int) { info->isEmpty(); }, kRounds * 4)});
   EXPECT_TRUE(info->isEmpty());
 }
 
 TEST(Threads, MakeDescriptionsAtTheSameTime) {
   std::atomic<int> wrong{0};
-  const auto make = rounds([&wrong](int round) {
-    const std::string id = std::to_string(round);
-    const Held<Info> stock(
-        createZolResSerializeInfoFromCompletResInfo(("{\"id\":" + id + "}").c_str(), 101));
-    const Held<Info> back(createZolResSerializeInfoFromBuffer(written(stock).c_str()));
-    wrong += back->uniqueKey() != "pixabay/" + id + "_res_type_25_info_type_101";
-    wrong += inside(back).intValue("rsResSaleMode") != -1;
-  }, kRounds / 4);
+  const auto make = rounds(
+      [&wrong](int round) {
+        const std::string id = std::to_string(round);
+        const Held<Info> stock(
+            createZolResSerializeInfoFromCompletResInfo(("{\"id\":" + id + "}").c_str(), 101));
+        const Held<Info> back(createZolResSerializeInfoFromBuffer(written(stock).c_str()));
+        wrong += back->uniqueKey() != "pixabay/" + id + "_res_type_25_info_type_101";
+        wrong += inside(back).intValue("rsResSaleMode") != -1;
+      },
+      kRounds / 4);
   together({make, make, make, make});
   EXPECT_EQ(wrong, 0);
 }
@@ -332,11 +352,13 @@ TEST(Threads, TurnTextsIntoListsAtTheSameTime) {
     texts->add(("{\"name\":\"" + std::to_string(i % 50) + "\",\"res_type\":3}").c_str());
   }
   std::atomic<int> wrong{0};
-  const auto turn = rounds([&](int) {
-    const Held<InfoList> out = newInfoList();
-    wrong += resInfoStr2SerializeList(texts.get(), out.get()) != 0;
-    wrong += out->size() != 50;
-  }, 5);
+  const auto turn = rounds(
+      [&](int) {
+        const Held<InfoList> out = newInfoList();
+        wrong += resInfoStr2SerializeList(texts.get(), out.get()) != 0;
+        wrong += out->size() != 50;
+      },
+      5);
   together({turn, turn, turn, turn});
   EXPECT_EQ(wrong, 0);
 }

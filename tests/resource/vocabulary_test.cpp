@@ -131,9 +131,7 @@ TEST(Vocabulary, HasNoFolderForAGapNorOutsideTheTable) {
   }
 }
 
-TEST(Vocabulary, GivesStockItemsAnEmptyFolderAndNotTheUnknownOne) {
-  EXPECT_EQ(folderOf(25), "");
-}
+TEST(Vocabulary, GivesStockItemsAnEmptyFolderAndNotTheUnknownOne) { EXPECT_EQ(folderOf(25), ""); }
 
 TEST(Vocabulary, RefusesToNameAFolderNowhere) {
   EXPECT_EQ(getResourceFolderString(0, nullptr), 1001);
