@@ -230,11 +230,10 @@ TEST(Scene, ResetsTheMarkedFieldsAlone) {
   EXPECT_EQ(scene->sceneNumber6(), 1);
   EXPECT_EQ(scene->sceneNumber7(), 0);
   EXPECT_EQ(scene->sceneNumber8(), 9);
-  const std::string left = std::string(scene->sceneText1()) + "|" + scene->sceneText2() + "|" +
-                           scene->sceneText3() + "|" + scene->sceneText4() + "|" +
-                           scene->sceneText5() + "|" + scene->sceneText6() + "|" +
-                           scene->sceneText7() + "|" + scene->sceneText8() + "|" +
-                           scene->sceneText9();
+  const std::string left =
+      std::string(scene->sceneText1()) + "|" + scene->sceneText2() + "|" + scene->sceneText3() +
+      "|" + scene->sceneText4() + "|" + scene->sceneText5() + "|" + scene->sceneText6() + "|" +
+      scene->sceneText7() + "|" + scene->sceneText8() + "|" + scene->sceneText9();
   EXPECT_EQ(left, "x||x|x||x||x|");
   auto& s = *scene;
   EXPECT_EQ(sizeOf(createZOLPCharList(), [&](auto* out) { return s.getSceneTexts1(out); }), 0);
@@ -245,7 +244,8 @@ TEST(Scene, ResetsTheMarkedFieldsAlone) {
                    [&](auto* out) { return s.getEventSoundList(out); }),
             0);
   EXPECT_EQ(sound->refCount(), 2);
-  EXPECT_EQ(sizeOf(createIKyScriptClipInfoList(), [&](auto* out) { return s.getClipList(out); }), 1);
+  EXPECT_EQ(sizeOf(createIKyScriptClipInfoList(), [&](auto* out) { return s.getClipList(out); }),
+            1);
   EXPECT_EQ(sizeOf(createIKyLoraTextToImageHistoryInfoList(),
                    [&](auto* out) { return s.getHistoryList(out); }),
             1);

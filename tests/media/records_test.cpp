@@ -203,9 +203,8 @@ struct Described<ZOL::IKyScriptSceneInfo> {
         .objects("historyList", &Scene::getHistoryList, &Scene::setHistoryList,
                  &createIKyLoraTextToImageHistoryInfoList, &createLoraTextToImageHistoryInfo,
                  &History::historyText1, &History::setHistoryText1)
-        .objects("clipList", &Scene::getClipList, &Scene::setClipList,
-                 &createIKyScriptClipInfoList, &createScriptClipInfo, &Clip::clipText,
-                 &Clip::setClipText)
+        .objects("clipList", &Scene::getClipList, &Scene::setClipList, &createIKyScriptClipInfoList,
+                 &createScriptClipInfo, &Clip::clipText, &Clip::setClipText)
         .text("sceneText6", &Scene::sceneText6, &Scene::setSceneText6)
         .text("sceneText7", &Scene::sceneText7, &Scene::setSceneText7)
         .texts("sceneTexts3", &Scene::getSceneTexts3, &Scene::setSceneTexts3)
@@ -223,18 +222,19 @@ struct Described<ZOL::IKyScriptSceneInfo> {
 
 namespace {
 
-using Records = testing::Types<
-    ZOL::IKyMaskInfoData, ZOL::IZoEffectInfo, ZOL::IZolPluginInfo, ZOL::IZolPanZoomPair,
-    ZOL::IFaceClusterInfo, ZOL::IKyVoiceDataInfo, ZOL::IKyLoraTextToImageHistoryInfo,
-    ZOL::IKyScriptCharactersIfInfo, ZOL::IKyScriptClipInfo, ZOL::IKyScriptEventSoundInfo,
-    ZOL::IKyScriptCharacterInfo, ZOL::IKyScriptSceneInfo>;
+using Records = testing::Types<ZOL::IKyMaskInfoData, ZOL::IZoEffectInfo, ZOL::IZolPluginInfo,
+                               ZOL::IZolPanZoomPair, ZOL::IFaceClusterInfo, ZOL::IKyVoiceDataInfo,
+                               ZOL::IKyLoraTextToImageHistoryInfo, ZOL::IKyScriptCharactersIfInfo,
+                               ZOL::IKyScriptClipInfo, ZOL::IKyScriptEventSoundInfo,
+                               ZOL::IKyScriptCharacterInfo, ZOL::IKyScriptSceneInfo>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Media, RecordFields, Records, InterfaceName);
 
 // All but the two that have no copy operation.
-using CopiedRecords = testing::Types<
-    ZOL::IZoEffectInfo, ZOL::IZolPluginInfo, ZOL::IZolPanZoomPair, ZOL::IFaceClusterInfo,
-    ZOL::IKyVoiceDataInfo, ZOL::IKyScriptCharactersIfInfo, ZOL::IKyScriptClipInfo,
-    ZOL::IKyScriptEventSoundInfo, ZOL::IKyScriptCharacterInfo, ZOL::IKyScriptSceneInfo>;
+using CopiedRecords =
+    testing::Types<ZOL::IZoEffectInfo, ZOL::IZolPluginInfo, ZOL::IZolPanZoomPair,
+                   ZOL::IFaceClusterInfo, ZOL::IKyVoiceDataInfo, ZOL::IKyScriptCharactersIfInfo,
+                   ZOL::IKyScriptClipInfo, ZOL::IKyScriptEventSoundInfo,
+                   ZOL::IKyScriptCharacterInfo, ZOL::IKyScriptSceneInfo>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Media, RecordCopies, CopiedRecords, InterfaceName);
 
 }  // namespace

@@ -202,7 +202,7 @@ TEST(DerivedSlug, IsNotDerivedByOtherIdsClassesCopiesAndClones) {
   EXPECT_EQ(show(media.get()), "2=");
   const Held<IParamObjectData> relink(createRelinkEffectData());
   relink->setParam(1, kDescription);
-  EXPECT_STREQ(relink->param(2), "");
+  EXPECT_EQ(show(relink.get()), std::string("1=") + kDescription);
   EXPECT_EQ(media->copyFrom(relink.get()), 0);
   EXPECT_STREQ(media->param(2), "");
   const Held<IParamObjectData> clone(media->deepClone());
@@ -236,11 +236,27 @@ TEST(DataMapText, IsWrittenIndentedInTheOrderOfSignedIds) {
 
 TEST(DataMapText, ComesBackEqual) {
   const Held<ZOL::IImageStylizesData> data(createImageStylizesData());
-  for (int id : {-7, 0, 2, 1000}) data->setParam(id, ("\"\\\n\xC3\xA4 " + std::to_string(id)).c_str());
+  for (int id : {-7, 0, 2, 1000})
+    data->setParam(id, ("\"\\\n\xC3\xA4 " + std::to_string(id)).c_str());
   const Held<ZOL::IImageStylizesData> other(createImageStylizesData());
   EXPECT_EQ(readInto(*other, dataMapOf(*data)), 0);
   EXPECT_EQ(dataMapOf(*other), dataMapOf(*data));
-  EXPECT_EQ(readInto(*other, "\xEF\xBB\xBF" + dataMapOf(*data)), 0);
+}
+
+TEST(DataMapText, IsReadBehindAByteOrderMark) {
+  const Held<ZOL::IImageStylizesData> data(createImageStylizesData());
+  EXPECT_EQ(readInto(*data, "\xEF\xBB\xBF{\"dataMap\": {\"4\": \"x\"}}"), 0);
+  EXPECT_EQ(show(data.get()), "4=x");
+}
+
+TEST(DataMapText, IsTheSameForAClone) {
+  const Held<ZOL::IImageStylizesData> data(createImageStylizesData());
+  data->setParam(2, "x");
+  data->setParam(9, "");
+  const Held<IParamObjectData> clone(data->deepClone());
+  auto* const stylized = ZOL::query<ZOL::IImageStylizesData>(clone.get());
+  ASSERT_NE(stylized, nullptr);
+  EXPECT_EQ(dataMapOf(*stylized), dataMapOf(*data));
 }
 
 TEST(DataMapText, IsMergedWhenRead) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "input.h"
 #include "output.h"
 
 namespace kydata {
@@ -39,6 +40,24 @@ struct StoryboardOptions {
   int script = 1;  ///< of a cut reply, counted from 1
 };
 bool runStoryboard(const StoryboardOptions& options, Output& out);
+
+struct DataMapOptions {
+  std::vector<std::string> files;
+  bool writeNormal = false;
+};
+bool runDataMap(const DataMapOptions& options, Output& out);
+
+/// Finds out which of the library's text forms a file holds, and shows it as the
+/// command for that form does.
+bool runRecognise(const std::string& file, Output& out);
+
+// One text as its command shows it without options. They throw a Fault where the text
+// is not of that form.
+void showResource(const Input& input, Output& out);
+void showCut(const Input& input, Output& out);
+void showReport(const Input& input, Output& out);
+void showStoryboard(const Input& input, int script, Output& out);
+void showDataMap(const Input& input, Output& out);
 
 }  // namespace kydata
 

@@ -9,10 +9,6 @@ namespace kydata {
 
 namespace {
 
-std::string typeText(int type, const char* name) {
-  return std::to_string(type) + " (" + name + ")";
-}
-
 void printTable(const std::string& title, const TextTable& table, Output& out) {
   if (table.isEmpty()) return;
   out.text() << '\n' << out.heading(title) << '\n';
@@ -85,11 +81,7 @@ void printScript(const CutScript& script, Output& out) {
   printMusic(script, out);
 }
 
-void printScripts(ZOL::IZolCutScripts* scripts, const CutOptions& options, Output& out) {
-  if (options.script) {
-    printScript(scriptOf(scripts, *options.script), out);
-    return;
-  }
+void printScripts(ZOL::IZolCutScripts* scripts, Output& out) {
   const auto count = static_cast<int>(scripts->scriptCount());
   if (count == 0) out.text() << "no scripts\n";
   for (int number = 1; number <= count; ++number) {
@@ -100,15 +92,22 @@ void printScripts(ZOL::IZolCutScripts* scripts, const CutOptions& options, Outpu
 
 }  // namespace
 
+void showCut(const Input& input, Output& out) { printScripts(readCutReply(input.text).get(), out); }
+
 bool runCut(const CutOptions& options, Output& out) {
   std::string picture;
   const bool isRead = reportingFaults(inputName(options.file), [&] {
     const Input input = readInput(options.file);
+    if (options.svg.empty() && !options.script) {
+      showCut(input, out);
+      return;
+    }
     const auto scripts = readCutReply(input.text);
+    const CutScript script = scriptOf(scripts.get(), options.script.value_or(1));
     if (options.svg.empty()) {
-      printScripts(scripts.get(), options, out);
+      printScript(script, out);
     } else {
-      picture = drawCut(scriptOf(scripts.get(), options.script.value_or(1)));
+      picture = drawCut(script);
     }
   });
   if (!isRead || options.svg.empty()) return isRead;

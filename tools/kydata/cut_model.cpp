@@ -119,4 +119,8 @@ const char* musicTypeName(int type) { return type == 0 ? "t2m" : "other"; }
 
 const char* highlightTypeName(int type) { return type == 0 ? "emotion" : "other"; }
 
+std::string typeText(int type, const char* name) {
+  return std::to_string(type) + " (" + name + ")";
+}
+
 }  // namespace kydata

@@ -72,6 +72,8 @@ CutScript scriptOf(ZOL::IZolCutScripts* scripts, int number);
 const char* scriptClassName(int scriptClass);
 const char* musicTypeName(int type);
 const char* highlightTypeName(int type);
+/// "0 (emotion)".
+std::string typeText(int type, const char* name);
 
 }  // namespace kydata
 

@@ -41,24 +41,45 @@ class CommandLine {
   CommandLine() : app_("Reads the texts of a video editor's data model and shows what they hold.") {
     app_.name("kydata");
     app_.set_version_flag("--version", "kydata " KYDATA_VERSION);
-    app_.require_subcommand(1);
+    app_.require_subcommand(0, 1);
     app_.footer(
-        footer("Example:\n"
+        footer("Without a command, kydata shows a file as the command for its form does. It asks\n"
+               "the library's readers in this order, and takes the first form that is there:\n"
+               "  cut reply             an array\n"
+               "  dataMap               an object \"dataMap\" of nothing but texts, strict JSON\n"
+               "  storyboard text       an array \"storyboard_infos\"\n"
+               "  resource description  a valid description in the normal form\n"
+               "  analysis report       a dimension or a keyword\n"
+               "  highlight text        an integer \"HLType\", \"trimIn\" or \"trimOut\"\n"
+               "Of a text that is none of them, the command of the form that was meant tells why.\n"
+               "\nExamples:\n"
+               "  kydata examples/data/highlight.json\n"
                "  kydata resource examples/data/pack_title.json\n\n"
                "kydata COMMAND --help tells more of one command.\n"));
+    app_.add_option("FILE", file_, "A text to recognise; - is standard input")->type_name("");
     addResource();
     addCut();
     addReport();
     addStoryboard();
+    addDataMap();
   }
 
-  void parse(int argc, char** argv) { app_.parse(argc, argv); }
+  void parse(int argc, char** argv) {
+    app_.parse(argc, argv);
+    const bool hasCommand = !app_.get_subcommands().empty();
+    if (hasCommand && !file_.empty()) {
+      throw CLI::ExtrasError({file_ + " in front of the command"});
+    }
+    if (!hasCommand && file_.empty()) throw CLI::RequiredError("a command or a file");
+  }
 
   bool run(kydata::Output& out) const {
     if (resourceCommand_->parsed()) return runResource(resource_, out);
     if (cutCommand_->parsed()) return runCut(cut_, out);
     if (reportCommand_->parsed()) return runReport(report_, out);
-    return runStoryboard(storyboard_, out);
+    if (storyboardCommand_->parsed()) return runStoryboard(storyboard_, out);
+    if (dataMapCommand_->parsed()) return runDataMap(dataMap_, out);
+    return runRecognise(file_, out);
   }
 
   /// Answers a request for help or the version with 0, and anything else with a
@@ -76,16 +97,14 @@ class CommandLine {
   static constexpr const char* kCutUsage = "cut [--script N] [--svg OUT] FILE";
   static constexpr const char* kReportUsage = "report [--svg OUT] FILE";
   static constexpr const char* kStoryboardUsage = "storyboard [--script N] FILE";
-
-  static std::string kindOf(const std::string& word) {
-    return word.rfind('-', 0) == 0 ? "option" : "command";
-  }
+  static constexpr const char* kDataMapUsage = "datamap [--normal] FILE...";
 
   std::string whatIsWrong(const CLI::ParseError& error) const {
     if (!app_.get_subcommands().empty()) return error.what();
     const std::vector<std::string> words = app_.remaining();
-    return words.empty() ? "it takes a command"
-                         : "there is no " + kindOf(words.front()) + " \"" + words.front() + "\"";
+    if (words.empty()) return error.what();
+    if (words.front().rfind('-', 0) == 0) return "there is no option \"" + words.front() + "\"";
+    return "\"" + file_ + "\" is no command, and without a command there is one file alone";
   }
 
   std::string usage() const {
@@ -93,7 +112,8 @@ class CommandLine {
     if (cutCommand_->parsed()) return kCutUsage;
     if (reportCommand_->parsed()) return kReportUsage;
     if (storyboardCommand_->parsed()) return kStoryboardUsage;
-    return "resource|cut|report|storyboard [OPTIONS] FILE...";
+    if (dataMapCommand_->parsed()) return kDataMapUsage;
+    return "[resource|cut|report|storyboard|datamap] [OPTIONS] FILE...";
   }
 
   void addResource() {
@@ -175,6 +195,22 @@ class CommandLine {
                "  kydata storyboard reply.json --script 2 > storyboard.json\n"));
   }
 
+  void addDataMap() {
+    CLI::App* command = app_.add_subcommand("datamap", "Shows the texts of dataMap texts by id");
+    dataMapCommand_ = command;
+    command->add_option("FILE", dataMap_.files, "Texts to read; - is standard input")
+        ->required()
+        ->type_name("");
+    command->add_flag("--normal", dataMap_.writeNormal, "Write the text as the library writes it");
+    command->footer(footer(
+        "Alone among the texts, this one is strict JSON: there are no comments and no\n"
+        "trailing commas in it, and nothing stands behind it. Names are taken as numbers, 0\n"
+        "where they begin with none, and of equal numbers the last one counts.\n"
+        "\nExamples:\n"
+        "  kydata datamap map.json\n"
+        "  kydata datamap --normal map.json | kydata datamap -\n"));
+  }
+
   static void addSvg(CLI::App* command, std::string& file, const std::string& text) {
     command->add_option("--svg", file, text + ", and write that picture; - is standard output")
         ->type_name("OUT");
@@ -199,10 +235,13 @@ class CommandLine {
   CLI::App* cutCommand_ = nullptr;
   CLI::App* reportCommand_ = nullptr;
   CLI::App* storyboardCommand_ = nullptr;
+  CLI::App* dataMapCommand_ = nullptr;
+  std::string file_;  ///< given without a command
   kydata::ResourceOptions resource_;
   kydata::CutOptions cut_;
   kydata::ReportOptions report_;
   kydata::StoryboardOptions storyboard_;
+  kydata::DataMapOptions dataMap_;
 };
 
 int runProgram(int argc, char** argv) {

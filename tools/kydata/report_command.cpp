@@ -56,15 +56,18 @@ void printReport(const std::string& name, const Report& report, Output& out) {
 
 }  // namespace
 
+void showReport(const Input& input, Output& out) {
+  printReport(input.name, readReport(input.text), out);
+}
+
 bool runReport(const ReportOptions& options, Output& out) {
   std::string picture;
   const bool isRead = reportingFaults(inputName(options.file), [&] {
     const Input input = readInput(options.file);
-    const Report report = readReport(input.text);
     if (options.svg.empty()) {
-      printReport(input.name, report, out);
+      showReport(input, out);
     } else {
-      picture = drawReport(report);
+      picture = drawReport(readReport(input.text));
     }
   });
   if (!isRead || options.svg.empty()) return isRead;

@@ -93,4 +93,14 @@ Report readReport(const std::string& text) {
   return report;
 }
 
+bool isReport(const std::string& text) {
+  if (!isJsonObject(text)) return false;
+  try {
+    const Report report = readReport(text);
+    return !report.dimensions.empty() || !report.keywords.empty();
+  } catch (const Fault&) {
+    return true;  // no other text has labels to stumble over
+  }
+}
+
 }  // namespace kydata

@@ -44,6 +44,10 @@ struct Report {
 /// \throws Fault when it is none.
 Report readReport(const std::string& text);
 
+/// True for a JSON object with a dimension or a keyword of a report, also if a label
+/// then keeps it from being read.
+bool isReport(const std::string& text);
+
 }  // namespace kydata
 
 #endif  // KYDATA_REPORT_MODEL_H_

@@ -127,6 +127,10 @@ bool printUnique(const ResourceOptions& options, const std::vector<Input>& texts
 
 }  // namespace
 
+void showResource(const Input& input, Output& out) {
+  printDescription(input.name, readDescription(input.text, std::nullopt).get(), out);
+}
+
 bool runResource(const ResourceOptions& options, Output& out) {
   std::vector<Input> texts;
   const bool allRead = readTexts(options, texts);

@@ -34,11 +34,13 @@ Owned<ZOL::IZolString> storyboardOf(const std::string& text, int script) {
 
 }  // namespace
 
+void showStoryboard(const Input& input, int script, Output& out) {
+  out.text() << storyboardOf(input.text, script)->text() << '\n';
+}
+
 bool runStoryboard(const StoryboardOptions& options, Output& out) {
-  return reportingFaults(inputName(options.file), [&] {
-    const Input input = readInput(options.file);
-    out.text() << storyboardOf(input.text, options.script)->text() << '\n';
-  });
+  return reportingFaults(inputName(options.file),
+                         [&] { showStoryboard(readInput(options.file), options.script, out); });
 }
 
 }  // namespace kydata
