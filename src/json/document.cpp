@@ -117,6 +117,15 @@ std::optional<long long> Value::integer64() const {
   const char* const end = digit + node_->size();
   const bool negative = *digit == '-';
   if (negative) ++digit;
+  if (end - digit <= 18) {  // too few to overflow
+    long long number = 0;
+    for (; digit != end; ++digit) {
+      const auto value = static_cast<unsigned>(*digit - '0');
+      if (value > 9) return std::nullopt;  // a point or an exponent
+      number = number * 10 + static_cast<long long>(value);
+    }
+    return negative ? -number : number;
+  }
   // Downwards, where there is one number more.
   constexpr long long kLowest = std::numeric_limits<long long>::min();
   long long number = 0;

@@ -54,6 +54,8 @@ class ThrowingAllocator {
 
 using Encoding = rapidjson::UTF8<>;
 using Reader = rapidjson::GenericReader<Encoding, Encoding, ThrowingAllocator>;
+using TextBuffer = rapidjson::GenericStringBuffer<Encoding, ThrowingAllocator>;
+using Writer = rapidjson::Writer<TextBuffer, Encoding, Encoding, ThrowingAllocator>;
 
 // How many readable bytes a text must have behind its terminating zero.
 constexpr std::size_t kScanPadding = sizeof(std::uint64_t);
@@ -100,6 +102,20 @@ inline void json::Reader::ScanCopyUnescapedString(InsituStringStream& in, Insitu
   }
   in.src_ = from;
   in.dst_ = to;
+}
+
+// And the one for writing them, which is the indenting writer's, too.
+template <>
+inline bool json::Writer::ScanWriteUnescapedString(StringStream& in, std::size_t length) {
+  const char* const end = in.head_ + length;
+  while (end - in.src_ >= static_cast<std::ptrdiff_t>(sizeof(std::uint64_t))) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, in.src_, sizeof(bytes));
+    if (json::endsOfPlainRun(bytes) != 0) break;
+    std::memcpy(os_->Push(sizeof(bytes)), &bytes, sizeof(bytes));
+    in.src_ += sizeof(bytes);
+  }
+  return in.src_ != end;
 }
 
 }  // namespace ZOL::rapidjson

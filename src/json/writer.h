@@ -13,8 +13,6 @@
 
 namespace ZOL::json {
 
-using TextBuffer = rapidjson::GenericStringBuffer<Encoding, ThrowingAllocator>;
-
 template <class Format>
 class TextWriter {
  public:
@@ -100,8 +98,7 @@ class TextWriter {
   Format format_;
 };
 
-using CompactWriter =
-    TextWriter<rapidjson::Writer<TextBuffer, Encoding, Encoding, ThrowingAllocator>>;
+using CompactWriter = TextWriter<Writer>;
 using PrettyWriter =
     TextWriter<rapidjson::PrettyWriter<TextBuffer, Encoding, Encoding, ThrowingAllocator>>;
 

@@ -102,6 +102,14 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   int insertListAt(long long index, Interface* other) override {
     const Store* const source = storeOf(other);
     if (!source || !mayStandAt(index)) return kRefused;
+    if constexpr (kPlain) {
+      if (source != this) {
+        Store::items.insert(Store::items.begin() + index, source->items.begin(),
+                            source->items.end());
+        behind_.reset();
+        return kSuccess;
+      }
+    }
     std::vector<Item> taken;
     taken.reserve(source->items.size());
     if (source == this) {

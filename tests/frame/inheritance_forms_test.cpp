@@ -67,7 +67,7 @@ class IWide : public virtual IRooted {
 // No such writer: for the forms without one.
 class INone {
  public:
-  static constexpr const char* interfaceName = "INone";
+  [[maybe_unused]] static constexpr const char* interfaceName = "INone";
 };
 
 std::string diary;
@@ -229,7 +229,15 @@ class InheritanceForm : public testing::Test {
 using Forms = testing::Types<Plain, PlainWithWriter, PlainWithWriterBehind, VirtualInterface,
                              WideVirtualInterface, VirtualRoot, VirtualRootWithWriter,
                              VirtualRootWithRootedWriter, VirtualMixin>;
-TYPED_TEST_SUITE(InheritanceForm, Forms);
+
+// Names a case by the interface that its class implements.
+struct MainInterface {
+  template <class Form>
+  static std::string GetName(int index) {
+    return Form::Main::interfaceName + std::to_string(index);
+  }
+};
+TYPED_TEST_SUITE(InheritanceForm, Forms, MainInterface);
 
 TYPED_TEST(InheritanceForm, AnswersItsInterfacesByName) {
   TypeParam* const object = ZOL::make<TypeParam>();
