@@ -78,7 +78,7 @@ int main(int argc, char** argv) {
   bench::require(decodeSimply(text.data(), text.size()) == bytes, "the yardstick agrees");
   proveReport(report, bytes);
 
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   table.measure("base64/decoder", [&text](benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(ZOL::decodeBase64(text).bytes.get());
   });

@@ -35,7 +35,7 @@ void add(bench::RatioTable& table, const std::string& size, std::size_t bytes) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   add(table, "1 MB", 1000000);
   add(table, "10 MB", 10000000);
   return table.run(argc, argv);

@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
   bench::proveCut(cutOf(small).get(), small.text);
   bench::require(bench::rowsOf(cutOf(large).get()) == large.rows, "each row is in the graph");
 
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   table.measure("cut/100 MB", bench::buildAlone([&large] { return cutOf(large); }))
       ->Repetitions(7)
       ->Iterations(1);

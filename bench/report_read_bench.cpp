@@ -126,7 +126,7 @@ int main(int argc, char** argv) {
   const std::string text = bench::analysisReport();
   prove(bench::owned(createKeyMatrixInfo(text.c_str())).get(), text);
 
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   const auto report = [&text] { return bench::owned(createKeyMatrixInfo(text.c_str())); };
   const auto document = [&text] { return bench::bareDocument(text); };
   table.measure("report/library alone", bench::buildAlone(report));

@@ -47,7 +47,7 @@ int main(int argc, char** argv) {
   const auto few = texts(10000);
   const auto many = texts(100000);
 
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   const auto measure = [&table](const char* name, ZOL::ZOLPCharList* list) {
     return table.measure(name, bench::buildAlone([list] { return described(list); }));
   };

@@ -31,7 +31,7 @@ int main(int argc, char** argv) {
   const std::string text = buffer->text();
   bench::require(bench::holds(read(buffer.get()).get(), rows), "each row has its values");
 
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   const auto list = [&buffer] { return read(buffer.get()); };
   const auto document = [&text] { return bench::bareDocument(text); };
   table.measure("storyboard/read alone", bench::buildAlone(list));

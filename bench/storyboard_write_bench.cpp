@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
                  "a storyboard is written");
   bench::require(out->equals(expected.GetString()), "both write the same text");
 
-  bench::RatioTable table;
+  bench::RatioTable table(bench::Heap::kept);
   table.measure("storyboard/written", [&](benchmark::State& state) {
     for (auto _ : state) storyboardInfoListToJsonBuffer(list.get(), out.get());
   });

@@ -128,7 +128,7 @@ int RatioTable::run(int argc, char** argv) {
   if (benchmark::ReportUnrecognizedArguments(count, pointers.data())) return 2;
 
   if (!byHand_.empty()) {
-    keepTheHeap();
+    if (heap_ == Heap::kept) keepTheHeap();
     Reporter reporter(*this, full);
     benchmark::RunSpecifiedBenchmarks(&reporter);
     benchmark::Shutdown();

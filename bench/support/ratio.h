@@ -11,9 +11,7 @@
 //
 // A measurement is a benchmark. It runs several times, and all runs of a program are
 // in random order, so what else the machine does meanwhile falls on both sides of a
-// ratio. The ratio is that of the medians of the CPU times. The heap keeps what it once
-// got from the system, as that of a program which has been running for a while; without
-// that, giving pages back and forth would drown the figures.
+// ratio. The ratio is that of the medians of the CPU times.
 //
 // --full prints the raw figures as well, and so does each flag of the benchmark
 // library, as in --benchmark_filter=add. A row that was not measured is left out.
@@ -41,6 +39,15 @@ Aim equal();
 // Reported for its own sake.
 Aim noAim();
 
+// What becomes of memory that is given back while a program measures.
+enum class Heap {
+  asItComes,
+  // It stays in the process, as in one that has been running for a while. For what
+  // takes much memory at once: whose turn it is to get fresh pages from the system
+  // would else be the greater part of a ratio.
+  kept,
+};
+
 class RatioTable {
  public:
   using Body = std::function<void(benchmark::State&)>;
@@ -53,6 +60,8 @@ class RatioTable {
     Aim aim;
     double scale = 1;  // what the ratio of the two medians is multiplied by
   };
+
+  explicit RatioTable(Heap heap = Heap::asItComes) : heap_(heap) {}
 
   // Counts the CPU time of the thread that runs the body. What comes back takes
   // further settings, such as the number of repetitions.
@@ -79,6 +88,7 @@ class RatioTable {
   bool worksOut(const Line& line, double& ratio) const;
   void print() const;
 
+  const Heap heap_;
   std::vector<Line> rows_;
   std::map<std::string, bool> byHand_;                  // measurement -> who keeps its time
   std::map<std::string, std::vector<double>> seconds_;  // measurement -> time of each run
