@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace ZOL::json {
@@ -21,12 +22,36 @@ class Names {
   }
 
   // The name's place in the array, or -1.
-  constexpr int find(std::string_view text) const {
+  int find(std::string_view text) const {
     const int place = slots_[slotOf(text)];
-    return place >= 0 && names_[static_cast<std::size_t>(place)] == text ? place : -1;
+    return place >= 0 && same(names_[static_cast<std::size_t>(place)], text) ? place : -1;
   }
 
  private:
+  // Names are short: a call that compares them would take longer than this, two looks
+  // that meet or overlap.
+  static bool same(std::string_view a, std::string_view b) {
+    const std::size_t size = a.size();
+    if (size != b.size()) return false;
+    if (size > 16) return a == b;
+    if (size >= 8) return sameEnds<std::uint64_t>(a.data(), b.data(), size);
+    if (size >= 4) return sameEnds<std::uint32_t>(a.data(), b.data(), size);
+    return a == b;
+  }
+
+  template <class Word>
+  static bool sameEnds(const char* a, const char* b, std::size_t size) {
+    return wordAt<Word>(a) == wordAt<Word>(b) &&
+           wordAt<Word>(a + size - sizeof(Word)) == wordAt<Word>(b + size - sizeof(Word));
+  }
+
+  template <class Word>
+  static Word wordAt(const char* text) {
+    Word word = 0;
+    std::memcpy(&word, text, sizeof(word));
+    return word;
+  }
+
   static_assert(N <= 64, "places are kept in a byte, and the search is short");
   static constexpr unsigned kBits = N <= 8 ? 6 : 9;
 

@@ -5,7 +5,7 @@
 // - with allocators that throw, as it does not look at what malloc answers;
 // - with sizes that are not cut to 32 bits;
 // - without its SSE2 code: that lets the control characters 0x1A to 0x1F pass in a
-//   string. Plain runs are skipped eight bytes at a time here instead.
+//   string. Plain runs are skipped here instead.
 
 #ifndef KYDATASTRUCTURE_JSON_RAPIDJSON_H_
 #define KYDATASTRUCTURE_JSON_RAPIDJSON_H_
@@ -15,6 +15,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
 
 #define RAPIDJSON_NAMESPACE ZOL::rapidjson
 #define RAPIDJSON_NAMESPACE_BEGIN namespace ZOL::rapidjson {
@@ -57,9 +61,6 @@ using Reader = rapidjson::GenericReader<Encoding, Encoding, ThrowingAllocator>;
 using TextBuffer = rapidjson::GenericStringBuffer<Encoding, ThrowingAllocator>;
 using Writer = rapidjson::Writer<TextBuffer, Encoding, Encoding, ThrowingAllocator>;
 
-// How many readable bytes a text must have behind its terminating zero.
-constexpr std::size_t kScanPadding = sizeof(std::uint64_t);
-
 // The bytes, of eight, that end a run of plain characters: a quotation mark, a backslash
 // or a control character. Their top bits are set; above the first of them, in order of
 // arithmetic, others may be, too.
@@ -72,6 +73,34 @@ inline std::uint64_t endsOfPlainRun(std::uint64_t bytes) {
   return (below | ((quote - ones) & ~quote) | ((backslash - ones) & ~backslash)) & tops;
 }
 
+// How many readable bytes a text must have behind its terminating zero.
+constexpr std::size_t kScanPadding = 16;
+
+// How many plain characters stand at `text`, which has its padding. May say less, at
+// most by one step, where the order of bytes is not that of x86.
+inline std::size_t plainRun(const char* text) {
+  const char* at = text;
+#if defined(__SSE2__)
+  const __m128i quote = _mm_set1_epi8('"');
+  const __m128i backslash = _mm_set1_epi8('\\');
+  const __m128i lastControl = _mm_set1_epi8(0x1F);
+  for (;; at += sizeof(__m128i)) {
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+    const __m128i ends =
+        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, quote), _mm_cmpeq_epi8(bytes, backslash)),
+                     _mm_cmpeq_epi8(_mm_min_epu8(bytes, lastControl), bytes));
+    const auto mask = static_cast<unsigned>(_mm_movemask_epi8(ends));
+    if (mask != 0) return static_cast<std::size_t>(at - text + __builtin_ctz(mask));
+  }
+#else
+  for (;; at += sizeof(std::uint64_t)) {
+    std::uint64_t bytes = 0;
+    std::memcpy(&bytes, at, sizeof(bytes));
+    if (endsOfPlainRun(bytes) != 0) return static_cast<std::size_t>(at - text);
+  }
+#endif
+}
+
 }  // namespace ZOL::json
 
 namespace ZOL::rapidjson {
@@ -80,28 +109,10 @@ namespace ZOL::rapidjson {
 template <>
 template <>
 inline void json::Reader::ScanCopyUnescapedString(InsituStringStream& in, InsituStringStream&) {
-  char* from = in.src_;
-  char* to = in.dst_;
-  for (;;) {
-    std::uint64_t bytes = 0;
-    std::memcpy(&bytes, from, sizeof(bytes));
-    const std::uint64_t ends = json::endsOfPlainRun(bytes);
-    if (ends != 0) {
-#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
-      // The first in memory is the first in order of arithmetic: up to there at once.
-      const auto plain = static_cast<std::size_t>(__builtin_ctzll(ends)) / 8;
-      if (to != from) std::memmove(to, from, plain);
-      from += plain;
-      to += plain;
-#endif
-      break;
-    }
-    std::memcpy(to, &bytes, sizeof(bytes));
-    from += sizeof(bytes);
-    to += sizeof(bytes);
-  }
-  in.src_ = from;
-  in.dst_ = to;
+  const std::size_t plain = json::plainRun(in.src_);
+  if (in.dst_ != in.src_) std::memmove(in.dst_, in.src_, plain);
+  in.src_ += plain;
+  in.dst_ += plain;
 }
 
 // And the one for writing them, which is the indenting writer's, too.

@@ -97,11 +97,30 @@ TEST(JsonNames, FindEachPropertyKeyAndNothingElse) {
   expectToFindEachAndNothingElse(ZOL::kUserStringKeys, keysOf(ZOL::userStringTable));
 }
 
-TEST(JsonNames, AnswerAtCompileTime) {
-  constexpr auto names = namesOf("id", "name", "type");
-  static_assert(names.find("id") == 0 && names.find("name") == 1 && names.find("type") == 2);
-  static_assert(names.find("nam") == -1 && names.find("") == -1);
-  SUCCEED();
+// The lengths at which the comparison takes another way, each with a neighbour that differs
+// in one character at each place.
+TEST(JsonNames, TellNamesOfEachLengthApart) {
+  constexpr auto names = namesOf("a", "bc", "def", "ghij", "klmno", "pqrstuv", "wxyzabcd",
+                                 "efghijklm", "nopqrstuvwxyzabc", "defghijklmnopqrst");
+  const std::string texts[] = {"a",
+                               "bc",
+                               "def",
+                               "ghij",
+                               "klmno",
+                               "pqrstuv",
+                               "wxyzabcd",
+                               "efghijklm",
+                               "nopqrstuvwxyzabc",
+                               "defghijklmnopqrst"};
+  int place = 0;
+  for (const std::string& text : texts) {
+    EXPECT_EQ(names.find(text), place++) << text;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+      std::string other = text;
+      other[i] = '?';
+      EXPECT_EQ(names.find(other), -1) << other;
+    }
+  }
 }
 
 // All the slots of a set, not only those of its own names.
