@@ -8,22 +8,29 @@ namespace ZOL::json {
 namespace {
 
 // Lays what the reader reports down on a tape. While a container is open, its end
-// holds the place of the one around it.
+// holds the place of the one around it, and the root's its own.
 class TapeBuilder : public rapidjson::BaseReaderHandler<Encoding, TapeBuilder> {
  public:
-  TapeBuilder() = default;
+  TapeBuilder(RootWatcher* watcher, std::size_t greatestDepth)
+      : watcher_(watcher), depthLeft_(greatestDepth) {
+    if (watcher_) watcher_->begin();
+  }
   TapeBuilder(const TapeBuilder&) = delete;
   TapeBuilder& operator=(const TapeBuilder&) = delete;
   ~TapeBuilder() { ThrowingAllocator::Free(tape_); }
 
   Node* giveTape() { return std::exchange(tape_, nullptr); }
+  bool wasTooDeep() const { return wasTooDeep_; }
 
   // The names are those that RapidJSON calls.
   bool Null() { return plain(Kind::null); }
   bool Bool(bool value) { return plain(value ? Kind::yes : Kind::no); }
   bool RawNumber(const char* text, std::size_t size, bool) { return lay(Kind::number, text, size); }
   bool String(const char* text, std::size_t size, bool) { return lay(Kind::string, text, size); }
-  bool Key(const char* text, std::size_t size, bool) { return lay(Kind::key, text, size); }
+  bool Key(const char* text, std::size_t size, bool) {
+    push(Kind::key, size).text = text;
+    return true;
+  }
   bool StartObject() { return open(Kind::object); }
   bool EndObject(std::size_t count) { return close(count); }
   bool StartArray() { return open(Kind::array); }
@@ -45,22 +52,40 @@ class TapeBuilder : public rapidjson::BaseReaderHandler<Encoding, TapeBuilder> {
 
   bool lay(Kind kind, const char* text, std::size_t size) {
     push(kind, size).text = text;
+    complete(count_ - 1);
     return true;
   }
 
   bool open(Kind kind) {
+    if (depthLeft_ == 0) {
+      wasTooDeep_ = true;
+      return false;
+    }
+    --depthLeft_;
     push(kind, 0).end = open_;
     open_ = count_ - 1;
     return true;
   }
 
   bool close(std::size_t count) {
-    Node& node = tape_[open_];
-    const std::size_t around = static_cast<std::size_t>(node.end);
-    node.kindAndSize = pack(node.kind(), count);
-    node.end = count_ - open_;
-    open_ = around;
+    ++depthLeft_;
+    const std::size_t place = open_;
+    Node& node = tape_[place];
+    open_ = static_cast<std::size_t>(node.end);
+    node.kindAndSize = pack(node.kind(), place == kRoot ? count - taken_ : count);
+    node.end = count_ - place;
+    complete(place);
     return true;
+  }
+
+  // A value is complete. Shows it if it is a child of the root.
+  void complete(std::size_t place) {
+    if (!watcher_ || open_ != kRoot || place == kRoot) return;
+    const bool named = tape_[kRoot].kind() == Kind::object;
+    const Node* const key = named ? &tape_[place - 1] : nullptr;
+    if (!watcher_->takes(key, Value(&tape_[place]))) return;
+    count_ = named ? place - 1 : place;
+    ++taken_;
   }
 
   void grow() {
@@ -70,17 +95,32 @@ class TapeBuilder : public rapidjson::BaseReaderHandler<Encoding, TapeBuilder> {
     capacity_ = capacity;
   }
 
+  static constexpr std::size_t kRoot = 0;
+
+  RootWatcher* const watcher_;
   Node* tape_ = nullptr;
   std::size_t count_ = 0;
   std::size_t capacity_ = 0;
-  std::size_t open_ = 0;  // the innermost open container
+  std::size_t open_ = kRoot;  // the innermost open container
+  std::size_t taken_ = 0;     // children of the root that are off the tape again
+  std::size_t depthLeft_;
+  bool wasTooDeep_ = false;
 };
 
-constexpr unsigned kStrict = rapidjson::kParseInsituFlag | rapidjson::kParseIterativeFlag |
-                             rapidjson::kParseNumbersAsStringsFlag;
+constexpr unsigned kStrict = rapidjson::kParseInsituFlag | rapidjson::kParseNumbersAsStringsFlag;
 constexpr unsigned kTolerant = kStrict | rapidjson::kParseCommentsFlag |
                                rapidjson::kParseTrailingCommasFlag |
                                rapidjson::kParseStopWhenDoneFlag;
+
+// How deep the recursive reader goes. A level takes some hundred bytes of stack.
+constexpr std::size_t kGreatestRecursion = 64;
+
+template <unsigned flags>
+bool parse(char* text, TapeBuilder& builder) {
+  rapidjson::InsituStringStream stream(text);
+  Reader reader;
+  return !reader.Parse<flags>(stream, builder).IsError();
+}
 
 // Each byte of the mark by itself, if it stands next.
 char* behindByteOrderMark(char* text) {
@@ -92,61 +132,50 @@ char* behindByteOrderMark(char* text) {
 
 }  // namespace
 
-Document::Document(std::string_view text, Grammar grammar, ByteOrderMark mark)
+Document::Document(std::string_view text, Grammar grammar, ByteOrderMark mark, RootWatcher* watcher)
     : text_(new char[text.size() + 1 + kScanPadding]) {
-  std::memcpy(text_.get(), text.data(), text.size());
-  std::memset(text_.get() + text.size(), 0, 1 + kScanPadding);
+  constexpr std::size_t kAnyDepth = std::numeric_limits<std::size_t>::max();
+  constexpr unsigned kIterative = rapidjson::kParseIterativeFlag;
 
-  rapidjson::InsituStringStream stream(
-      mark == ByteOrderMark::skipped ? behindByteOrderMark(text_.get()) : text_.get());
-  Reader reader;
-  TapeBuilder builder;
-  const bool failed = grammar == Grammar::tolerant
-                          ? reader.Parse<kTolerant>(stream, builder).IsError()
-                          : reader.Parse<kStrict>(stream, builder).IsError();
-  if (failed) return;
-  tape_ = builder.giveTape();
-  root_ = Value(tape_);
+  const auto parseCopy = [&](auto parseTolerant, auto parseStrict, std::size_t greatestDepth) {
+    std::memcpy(text_.get(), text.data(), text.size());
+    std::memset(text_.get() + text.size(), 0, 1 + kScanPadding);
+    char* const begin =
+        mark == ByteOrderMark::skipped ? behindByteOrderMark(text_.get()) : text_.get();
+    TapeBuilder builder(watcher, greatestDepth);
+    const bool accepted =
+        grammar == Grammar::tolerant ? parseTolerant(begin, builder) : parseStrict(begin, builder);
+    if (accepted) {
+      tape_ = builder.giveTape();
+      root_ = Value(tape_);
+    }
+    return builder.wasTooDeep();
+  };
+  if (parseCopy(parse<kTolerant>, parse<kStrict>, kGreatestRecursion)) {
+    parseCopy(parse<kTolerant | kIterative>, parse<kStrict | kIterative>, kAnyDepth);
+  }
 }
 
 Document::~Document() { ThrowingAllocator::Free(tape_); }
 
-std::optional<long long> Value::integer64() const {
-  if (!isNumber()) return std::nullopt;
-  const char* digit = node_->text;
-  const char* const end = digit + node_->size();
+bool readInteger(std::string_view number, long long& integer) {
+  const char* digit = number.data();
+  const char* const end = digit + number.size();
   const bool negative = *digit == '-';
   if (negative) ++digit;
-  if (end - digit <= 18) {  // too few to overflow
-    long long number = 0;
-    for (; digit != end; ++digit) {
-      const auto value = static_cast<unsigned>(*digit - '0');
-      if (value > 9) return std::nullopt;  // a point or an exponent
-      number = number * 10 + static_cast<long long>(value);
-    }
-    return negative ? -number : number;
-  }
   // Downwards, where there is one number more.
   constexpr long long kLowest = std::numeric_limits<long long>::min();
-  long long number = 0;
+  integer = 0;
   for (; digit != end; ++digit) {
-    if (*digit < '0' || *digit > '9') return std::nullopt;  // a point or an exponent
+    if (*digit < '0' || *digit > '9') return false;  // a point or an exponent
     const int value = *digit - '0';
-    if (number < kLowest / 10 || number * 10 < kLowest + value) return std::nullopt;
-    number = number * 10 - value;
+    if (integer < kLowest / 10 || integer * 10 < kLowest + value) return false;
+    integer = integer * 10 - value;
   }
-  if (negative) return number;
-  if (number == kLowest) return std::nullopt;
-  return -number;
-}
-
-std::optional<int> Value::integer32() const {
-  const std::optional<long long> number = integer64();
-  if (!number || *number < std::numeric_limits<int>::min() ||
-      *number > std::numeric_limits<int>::max()) {
-    return std::nullopt;
-  }
-  return static_cast<int>(*number);
+  if (negative) return true;
+  if (integer == kLowest) return false;
+  integer = -integer;
+  return true;
 }
 
 }  // namespace ZOL::json

@@ -1,8 +1,9 @@
 // A parsed JSON text, and the one rule of what a member of which type counts as.
 //
-// A text is copied once into a private buffer and parsed there, in place, by
-// RapidJSON's iterative reader, so that no depth of nesting is too deep. What it
-// finds is laid down in document order on a tape of 16-byte nodes:
+// A text is copied into a private buffer and parsed there, in place. RapidJSON's
+// recursive reader does it, up to a depth that fits any stack; a text that is nested
+// deeper is begun anew with the iterative one. What is found is laid down in document
+// order on a tape of 16-byte nodes:
 //
 //   {"a": [1, "x"], "b": 2.5}
 //
@@ -18,6 +19,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
+#include <limits>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -80,6 +83,7 @@ class Value {
   const Node* node() const { return node_; }
 
  private:
+  bool readInteger(long long& integer) const;
   bool is(Kind kind) const { return node_ && node_->kind() == kind; }
   bool isContainer() const { return isArray() || isObject(); }
 
@@ -145,6 +149,56 @@ class Members {
   const Node* end_;
 };
 
+// The value of a number's characters, if it is an integer that fits.
+bool readInteger(std::string_view number, long long& integer);
+
+// The same for up to eight digits, all looked at together. Reads eight bytes, which a
+// document has behind the beginning of any number.
+inline bool readShortInteger(const char* digits, std::size_t count, long long& integer) {
+  std::uint64_t eight = 0;
+  std::memcpy(&eight, digits, sizeof(eight));
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+  eight = __builtin_bswap64(eight);
+#endif
+  // The last digit to the top; what is below the first one is 0.
+  const auto empty = static_cast<unsigned>(8 * (8 - count));
+  eight = (eight << empty) ^ (0x3030303030303030U << empty);
+  constexpr std::uint64_t tops = 0x8080808080808080U;
+  if (((eight + 0x7676767676767676U) | eight) & tops) return false;  // a point or an exponent
+  // Neighbours are joined: to two digits, to four, to eight.
+  eight = (eight * (1 + (10U << 8))) >> 8;
+  eight = ((eight & 0x00FF00FF00FF00FFU) * (1 + (100U << 16))) >> 16;
+  eight = ((eight & 0x0000FFFF0000FFFFU) * (1 + (std::uint64_t{10000} << 32))) >> 32;
+  integer = static_cast<long long>(eight);
+  return true;
+}
+
+inline bool Value::readInteger(long long& integer) const {
+  if (!isNumber()) return false;
+  const auto size = static_cast<std::size_t>(node_->size());
+  const bool negative = *node_->text == '-';
+  const std::size_t digits = size - (negative ? 1 : 0);
+  if (digits > 8) return json::readInteger({node_->text, size}, integer);
+  if (!readShortInteger(node_->text + (negative ? 1 : 0), digits, integer)) return false;
+  if (negative) integer = -integer;
+  return true;
+}
+
+inline std::optional<long long> Value::integer64() const {
+  long long integer = 0;
+  if (!readInteger(integer)) return std::nullopt;
+  return integer;
+}
+
+inline std::optional<int> Value::integer32() const {
+  long long integer = 0;
+  if (!readInteger(integer) || integer < std::numeric_limits<int>::min() ||
+      integer > std::numeric_limits<int>::max()) {
+    return std::nullopt;
+  }
+  return static_cast<int>(integer);
+}
+
 inline Elements Value::elements() const {
   return isArray() ? Elements(node_ + 1, node_->next()) : Elements(nullptr, nullptr);
 }
@@ -181,11 +235,29 @@ enum class Grammar {
 
 enum class ByteOrderMark { skipped, error };
 
+// Sees each child of the root as soon as it is complete, and may take it off the tape, so
+// that a long text needs a short one. The text may still turn out not to be accepted.
+class RootWatcher {
+ public:
+  // The children are shown from the first one on, for the first time or once more.
+  virtual void begin() = 0;
+  // Whether the child is done with. Its key is null if the root is an array. Neither may
+  // be looked at afterwards.
+  virtual bool takes(const Node* key, Value child) = 0;
+
+ protected:
+  ~RootWatcher() = default;
+};
+
 class Document {
  public:
   // Copies the text. `length` counts: a zero byte in it is a character like any other.
   explicit Document(std::string_view text, Grammar grammar = Grammar::tolerant,
-                    ByteOrderMark mark = ByteOrderMark::skipped);
+                    ByteOrderMark mark = ByteOrderMark::skipped)
+      : Document(text, grammar, mark, nullptr) {}
+  // The same with the tolerant grammar. The root holds what the watcher has not taken.
+  Document(std::string_view text, RootWatcher& watcher)
+      : Document(text, Grammar::tolerant, ByteOrderMark::skipped, &watcher) {}
   Document(const Document&) = delete;
   Document& operator=(const Document&) = delete;
   ~Document();
@@ -194,6 +266,8 @@ class Document {
   Value root() const { return root_; }
 
  private:
+  Document(std::string_view text, Grammar grammar, ByteOrderMark mark, RootWatcher* watcher);
+
   std::unique_ptr<char[]> text_;
   Node* tape_ = nullptr;
   Value root_;

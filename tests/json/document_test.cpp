@@ -233,4 +233,92 @@ TEST(JsonDocument, SortsInTheMembersThatHaveAPlace) {
   for (const Value value : ZOL::json::sortIn(kNames, Value())) EXPECT_FALSE(value);
 }
 
+// Takes the children whose text, or number's first digit, begins as said, and writes down
+// all that it sees.
+class Taker final : public ZOL::json::RootWatcher {
+ public:
+  explicit Taker(std::string taken) : taken_(std::move(taken)) {}
+
+  void begin() override { seen_.clear(); }
+  bool takes(const ZOL::json::Node* key, Value child) override {
+    const std::string name = key ? key->text : "";
+    const std::string kind = child.isArray()    ? "array"
+                             : child.isObject() ? "object"
+                             : child.text()     ? child.text()
+                                                : show(child.integer64());
+    seen_ += name + ":" + kind + " ";
+    return taken_.find((key ? name : kind).substr(0, 1)) != std::string::npos;
+  }
+
+  const std::string& seen() const { return seen_; }
+
+ private:
+  const std::string taken_;
+  std::string seen_;
+};
+
+TEST(JsonRootWatcher, SeesEachMemberOfTheRootAndNoOther) {
+  Taker taker("");
+  const Document document(R"({"a": 1, "b": {"c": [2, {"d": 3}]}, "e": ["f"], "g": "h"})", taker);
+  EXPECT_EQ(taker.seen(), "a:1 b:object e:array g:h ");
+  EXPECT_EQ(document.root().size(), 4U);
+  EXPECT_EQ(document.root().member("b").member("c").size(), 2U);
+}
+
+TEST(JsonRootWatcher, SeesEachElementOfTheRootAndNoOther) {
+  Taker taker("");
+  const Document document(R"([1, [2, [3]], {"a": 4}, "b"])", taker);
+  EXPECT_EQ(taker.seen(), ":1 :array :object :b ");
+  EXPECT_EQ(document.root().size(), 4U);
+}
+
+TEST(JsonRootWatcher, LeavesTheMembersThatItDoesNotTake) {
+  Taker taker("ac");
+  const Document document(
+      R"({"a": [1, 2, 3], "b": {"x": 5}, "c": {"y": [6]}, "d": "last", "a": 7})", taker);
+  const Value root = document.root();
+  ASSERT_TRUE(root.isObject());
+  EXPECT_EQ(root.size(), 2U);
+  EXPECT_EQ(show(root.member("b").member("x").integer64()), "5");
+  EXPECT_EQ(show(root.member("d").text()), "\"last\"");
+  EXPECT_FALSE(root.member("a"));
+  EXPECT_FALSE(root.member("c"));
+}
+
+TEST(JsonRootWatcher, LeavesTheElementsThatItDoesNotTake) {
+  Taker taker("1a");
+  const Document document(R"([1, 2, [1], 13, "b", "a", null])", taker);
+  EXPECT_EQ(document.root().size(), 3U);
+  std::string left;
+  for (const Value element : document.root().elements()) {
+    left += element.text() ? element.text() : show(element.integer64());
+    left += " ";
+  }
+  EXPECT_EQ(left, "2 b none ");
+}
+
+TEST(JsonRootWatcher, SeesNothingOfARootThatIsNoContainer) {
+  Taker taker("1");
+  const Document document("1", taker);
+  EXPECT_EQ(taker.seen(), "");
+  EXPECT_EQ(show(document.root().integer64()), "1");
+}
+
+TEST(JsonRootWatcher, HasSeenWhatStandsInFrontOfAnError) {
+  Taker taker("1");
+  const Document document("[1, 2, oops]", taker);
+  EXPECT_EQ(taker.seen(), ":1 :2 ");
+  EXPECT_FALSE(document.root());
+}
+
+TEST(JsonRootWatcher, IsShownADeepTextFromTheBeginning) {
+  for (const std::size_t depth : {62U, 63U, 64U, 65U, 1000U}) {
+    Taker taker("1");
+    const std::string deep = std::string(depth, '[') + std::string(depth, ']');
+    const Document document("[1, 2, " + deep + ", 1]", taker);
+    EXPECT_EQ(taker.seen(), ":1 :2 :array :1 ") << depth;
+    EXPECT_EQ(document.root().size(), 2U) << depth;
+  }
+}
+
 }  // namespace
