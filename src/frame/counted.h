@@ -30,6 +30,13 @@ class Virtually : public virtual Base {
 template <class... Bases>
 class Counted : public Bases... {
  public:
+  // The block comes first. Were it allocated between the bases, the compiler would have
+  // to keep a table of pure operations for each of them, for whom the allocation might
+  // show the half-made object to.
+  Counted() : Counted(new CounterBlock) {}
+  // A block that is there already.
+  explicit Counted(CounterBlock* block) { RefCnt<void>::countIn(block); }
+
   int addRef() override { return RefCnt<void>::addRef(); }
   int release() override { return RefCnt<void>::release(); }
   int refCount() override { return RefCnt<void>::refCount(); }

@@ -6,9 +6,10 @@
 
 #include <KyDataStructure/frame.h>
 
-#include <string>
+#include <utility>
 
 #include "frame/ref.h"
+#include "frame/shared_text.h"
 
 namespace ZOL {
 
@@ -34,20 +35,17 @@ enum class NullText { refused, empty };
 template <NullText rule>
 class Text {
  public:
-  const char* get() const { return text_.c_str(); }
-  bool isEmpty() const { return text_.empty(); }
+  const char* get() const { return text_.get(); }
+  bool isEmpty() const { return text_.isEmpty(); }
   int set(const char* text) {
-    if (!text) {
-      if constexpr (rule == NullText::refused) return kRefused;
-      text_.clear();
-      return kSuccess;
-    }
-    text_.assign(text);
+    if (!text && rule == NullText::refused) return kRefused;
+    text_ = text ? SharedText(text) : SharedText();
     return kSuccess;
   }
+  void set(SharedText text) { text_ = std::move(text); }
 
  private:
-  std::string text_;
+  SharedText text_;
 };
 
 using TextRefusingNull = Text<NullText::refused>;
@@ -62,6 +60,7 @@ class Kept {
     object_ = Ref<Interface>::share(object);
     return kSuccess;
   }
+  void set(Ref<Interface> object) { object_ = std::move(object); }
   // The same for fields that refuse null.
   int setUnlessNull(Interface* object) { return object ? set(object) : kRefused; }
 

@@ -5,6 +5,7 @@
 #define KYDATASTRUCTURE_FRAME_REF_H_
 
 #include <cstddef>
+#include <type_traits>
 #include <utility>
 
 namespace ZOL {
@@ -24,6 +25,9 @@ class Ref {
   Ref(std::nullptr_t) {}  // NOLINT(google-explicit-constructor): an empty reference
   Ref(const Ref& other) : Ref(share(other.object_)) {}
   Ref(Ref&& other) noexcept : object_(other.object_) { other.object_ = nullptr; }
+  // As a base of it.
+  template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
+  Ref(Ref<U>&& other) noexcept : object_(other.give()) {}  // NOLINT(google-explicit-constructor)
   // By value, and swapped: the new object is in its place before the old one is
   // released, since a release may call back.
   Ref& operator=(Ref other) noexcept {
@@ -46,11 +50,17 @@ class Ref {
   T* object_ = nullptr;
 };
 
-// What every factory does: a new object with its first reference.
+// What every factory does: a new object with its first reference. Without arguments
+// the object is not zeroed ahead of its constructor, which sets each field anyhow.
 template <class Class, class... Arguments>
 Class* make(Arguments&&... arguments) {
-  auto* const object = new Class(std::forward<Arguments>(arguments)...);
-  object->addRef();
+  Class* object;
+  if constexpr (sizeof...(Arguments) == 0) {
+    object = new Class;
+  } else {
+    object = new Class(std::forward<Arguments>(arguments)...);
+  }
+  object->beginAtOne();
   return object;
 }
 

@@ -4,16 +4,18 @@ namespace ZOL {
 
 void RefCnt<void>::end() {
   if (destroyed_.load(std::memory_order_relaxed) != 0) return;
-  destroyed_.exchange(1);
+  destroyed_.store(1, std::memory_order_relaxed);
   if (IReleaseHook* const hook = releaseHook_.load()) hook->onLastRelease();
-  delete this;
-}
-
-RefCnt<void>::~RefCnt() {
+  if (stepsIntoBatch_ != 0) {
+    void* const batch = reinterpret_cast<char*>(this) - stepsIntoBatch_ * kBatchStep;
+    this->~RefCnt();
+    static_cast<Shares*>(batch)->giveBack(1);
+    return;
+  }
   CounterBlock* const block = block_;
-  block_ = nullptr;
-  if (block->holds.value() <= 0) return;
-  if (block->holds.takeOne() == 0 && block->strong.value() == 0) delete block;
+  delete this;
+  // The object was its one holder, so nobody else can see the block any more.
+  if (block->strong.value() == 0) delete block;
 }
 
 }  // namespace ZOL

@@ -18,8 +18,14 @@
 #include <KyDataStructure/frame.h>
 
 #include <atomic>
+#include <cstddef>
+#include <cstdint>
+
+#include "frame/shares.h"
 
 namespace ZOL {
+
+constexpr int kNeverReferenced = -1;
 
 // One word of a counter block. Every write is a read-modify-write of sequential
 // consistency: the one that brings the count to 0 comes after all others, so the
@@ -28,12 +34,14 @@ namespace ZOL {
 // itself; it needs no order.
 class CounterWord {
  public:
+  explicit constexpr CounterWord(int value = kNeverReferenced) : word_(value) {}
+
   int value() const { return word_.load(std::memory_order_relaxed); }
 
   // The new value; 0, and nothing else, for a dead word.
   int increment() {
     const int seen = value();
-    if (seen == kNever) {
+    if (seen == kNeverReferenced) {
       word_.exchange(1);
       return 1;
     }
@@ -58,14 +66,16 @@ class CounterWord {
     return 0;
   }
 
+  // increment() from the marker, for a word that no other thread can see yet.
+  void incrementUnseen() { word_.store(1, std::memory_order_relaxed); }
+
  private:
-  static constexpr int kNever = -1;
-  std::atomic<int> word_{kNever};
+  std::atomic<int> word_;
 };
 
 struct CounterBlock {
-  CounterWord strong;  // references held by users
-  CounterWord holds;   // objects that point at this block: the one it was made for
+  CounterWord strong{kNeverReferenced};  // references held by users
+  CounterWord holds{1};                  // objects that point here: the one it was made for
 };
 static_assert(sizeof(CounterBlock) == 8, "two 32-bit words");
 
@@ -73,13 +83,25 @@ template <class T>
 class RefCnt;
 
 // The counting mixin of every concrete class. Inherited beside the interfaces,
-// whose five counter operations Counted forwards to it.
+// whose five counter operations Counted forwards to it. Counts from the moment when
+// Counted gives it its block.
 template <>
 class RefCnt<void> {
  public:
-  RefCnt() : block_(new CounterBlock) { block_->holds.increment(); }
+  RefCnt() = default;
   RefCnt(const RefCnt&) = delete;
   RefCnt& operator=(const RefCnt&) = delete;
+
+  // The first addRef(), for a factory: nobody else can see the object yet.
+  void beginAtOne() { block_->strong.incrementUnseen(); }
+
+  // For an object that stands, with its block, in memory that it shares (batch.h).
+  static constexpr std::size_t kBatchStep = 8;
+  static constexpr std::size_t kMostBatchSteps = 65535;
+  void belongTo(Shares& shares) {
+    const auto distance = reinterpret_cast<char*>(this) - reinterpret_cast<char*>(&shares);
+    stepsIntoBatch_ = static_cast<std::uint16_t>(static_cast<std::size_t>(distance) / kBatchStep);
+  }
 
   virtual int addRef() { return block_ ? block_->strong.increment() : 0; }
 
@@ -94,14 +116,20 @@ class RefCnt<void> {
   virtual IReleaseHook* releaseHook() { return releaseHook_.load(); }
   virtual void setReleaseHook(IReleaseHook* hook) { releaseHook_.exchange(hook); }
 
-  virtual ~RefCnt();
+  virtual ~RefCnt() { block_ = nullptr; }
+
+ protected:
+  void countIn(CounterBlock* block) { block_ = block; }
 
  private:
-  // Once and no more: the hook, while the object is whole, and then its destruction.
+  // Once and no more: the hook, while the object is whole, then its destruction, then
+  // the block. On purpose not the destructor frees the block: so it is plain, and the
+  // compiler needs no table of any base that an object passes through when it ends.
   void end();
 
-  CounterBlock* block_;  // null only once destruction has begun
+  CounterBlock* block_ = nullptr;  // null again once destruction has begun
   std::atomic<unsigned char> destroyed_{0};
+  std::uint16_t stepsIntoBatch_ = 0;  // 0 for an object with memory of its own
   std::atomic<IReleaseHook*> releaseHook_{nullptr};
 };
 
