@@ -25,6 +25,8 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   static constexpr bool kPlain = std::is_same_v<Item, T>;  // stored as it goes in and out
 
  public:
+  using Counted<Interface, Store, RefCnt<void>>::Counted;
+
   void* queryInterface(const char* name) override {
     if (sameText(name, kListData)) return Store::items.data();
     return answer<Interface>(this, name);
@@ -134,6 +136,9 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
     }
     return kSuccess;
   }
+
+  // For whoever makes the list: the elements, to be filled before anybody else sees it.
+  std::vector<Item>& elements() { return Store::items; }
 
   long long find(T key, Match match) override {
     if (!match) return -1;

@@ -6,56 +6,50 @@
 
 #include "frame/ref.h"
 #include "lists/list.h"
+#include "lists/made_lists.h"
 #include "lists/stores.h"
 
 namespace ZOL {
+
+template class List<IZolHighlightInfoList, ZOLObjectTemplateList<IZolHighlightInfo>>;
+template class List<IZolMusicInfoList, ZOLObjectTemplateList<IZolMusicInfo>>;
+template class List<IZolSliceItemList, ZOLObjectTemplateList<IZolSliceItem>>;
+template class List<IZolSmartCutClipInfoList, ZOLObjectTemplateList<IZolSmartCutClipInfo>>;
+template class List<IZolStoryboardInfoList, ZOLObjectTemplateList<IZolStoryboardInfo>>;
+template class List<IZolTextInfoList, ZOLObjectTemplateList<IZolTextInfo>>;
+
 namespace {
 
 using _ZOLPCharList = List<ZOLPCharList, ZOLStringTemplateList<const char*>>;
 using _ZOLAutoVoidPtrList = List<ZOLAutoVoidPtrList, ZOLSharePtrTemplateList<void*>>;
-using _ZOLBaseObjectList = List<ZOLBaseObjectList, ZOLObjectTemplateList<IDmBaseObj>>;
-using _IKyMaskInfoDataList = List<IKyMaskInfoDataList, ZOLObjectTemplateList<IKyMaskInfoData>>;
-using _IZolBGRDataList = List<IZolBGRDataList, ZOLObjectTemplateList<IZolBGRData>>;
-using _IZolBGRADataList = List<IZolBGRADataList, ZOLObjectTemplateList<IZolBGRAData>>;
-using _IZoEffectInfoList = List<IZoEffectInfoList, ZOLObjectTemplateList<IZoEffectInfo>>;
-using _IZolPluginInfoList = List<IZolPluginInfoList, ZOLObjectTemplateList<IZolPluginInfo>>;
-using _IFaceClusterInfoList = List<IFaceClusterInfoList, ZOLObjectTemplateList<IFaceClusterInfo>>;
-using _IKyLoraTextToImageHistoryInfoList =
-    List<IKyLoraTextToImageHistoryInfoList, ZOLObjectTemplateList<IKyLoraTextToImageHistoryInfo>>;
-using _IKyVoiceDataInfoList = List<IKyVoiceDataInfoList, ZOLObjectTemplateList<IKyVoiceDataInfo>>;
-using _IKyScriptSceneInfoList =
-    List<IKyScriptSceneInfoList, ZOLObjectTemplateList<IKyScriptSceneInfo>>;
-using _IKyScriptCharacterInfoList =
-    List<IKyScriptCharacterInfoList, ZOLObjectTemplateList<IKyScriptCharacterInfo>>;
-using _IKyScriptEventSoundInfoList =
-    List<IKyScriptEventSoundInfoList, ZOLObjectTemplateList<IKyScriptEventSoundInfo>>;
-using _IKyScriptCharactersIfInfoList =
-    List<IKyScriptCharactersIfInfoList, ZOLObjectTemplateList<IKyScriptCharactersIfInfo>>;
-using _IKyScriptClipInfoList =
-    List<IKyScriptClipInfoList, ZOLObjectTemplateList<IKyScriptClipInfo>>;
-using _IZolResSerializeInfoList =
-    List<IZolResSerializeInfoList, ZOLObjectTemplateList<IZolResSerializeInfo>>;
-using _IZolSliceItemList = List<IZolSliceItemList, ZOLObjectTemplateList<IZolSliceItem>>;
-using _IZolDemensionsItemList =
-    List<IZolDemensionsItemList, ZOLObjectTemplateList<IZolDemensionsItem>>;
-using _IZolKeyMatrixInfoList =
-    List<IZolKeyMatrixInfoList, ZOLObjectTemplateList<IZolKeyMatrixInfo>>;
-using _IZolTextInfoList = List<IZolTextInfoList, ZOLObjectTemplateList<IZolTextInfo>>;
-using _IZolHighlightInfoList =
-    List<IZolHighlightInfoList, ZOLObjectTemplateList<IZolHighlightInfo>>;
-using _IZolSmartCutClipInfoList =
-    List<IZolSmartCutClipInfoList, ZOLObjectTemplateList<IZolSmartCutClipInfo>>;
-using _IZolMusicInfoList = List<IZolMusicInfoList, ZOLObjectTemplateList<IZolMusicInfo>>;
-using _IZolStoryboardInfoList =
-    List<IZolStoryboardInfoList, ZOLObjectTemplateList<IZolStoryboardInfo>>;
-using _IZolSmartCutSearchResultList =
-    List<IZolSmartCutSearchResultList, ZOLObjectTemplateList<IZolSmartCutSearchResult>>;
+using _ZOLBaseObjectList = ObjectList<ZOLBaseObjectList>;
+using _IKyMaskInfoDataList = ObjectList<IKyMaskInfoDataList>;
+using _IZolBGRDataList = ObjectList<IZolBGRDataList>;
+using _IZolBGRADataList = ObjectList<IZolBGRADataList>;
+using _IZoEffectInfoList = ObjectList<IZoEffectInfoList>;
+using _IZolPluginInfoList = ObjectList<IZolPluginInfoList>;
+using _IFaceClusterInfoList = ObjectList<IFaceClusterInfoList>;
+using _IKyLoraTextToImageHistoryInfoList = ObjectList<IKyLoraTextToImageHistoryInfoList>;
+using _IKyVoiceDataInfoList = ObjectList<IKyVoiceDataInfoList>;
+using _IKyScriptSceneInfoList = ObjectList<IKyScriptSceneInfoList>;
+using _IKyScriptCharacterInfoList = ObjectList<IKyScriptCharacterInfoList>;
+using _IKyScriptEventSoundInfoList = ObjectList<IKyScriptEventSoundInfoList>;
+using _IKyScriptCharactersIfInfoList = ObjectList<IKyScriptCharactersIfInfoList>;
+using _IKyScriptClipInfoList = ObjectList<IKyScriptClipInfoList>;
+using _IZolResSerializeInfoList = ObjectList<IZolResSerializeInfoList>;
+using _IZolSliceItemList = ObjectList<IZolSliceItemList>;
+using _IZolDemensionsItemList = ObjectList<IZolDemensionsItemList>;
+using _IZolKeyMatrixInfoList = ObjectList<IZolKeyMatrixInfoList>;
+using _IZolTextInfoList = ObjectList<IZolTextInfoList>;
+using _IZolHighlightInfoList = ObjectList<IZolHighlightInfoList>;
+using _IZolSmartCutClipInfoList = ObjectList<IZolSmartCutClipInfoList>;
+using _IZolMusicInfoList = ObjectList<IZolMusicInfoList>;
+using _IZolStoryboardInfoList = ObjectList<IZolStoryboardInfoList>;
+using _IZolSmartCutSearchResultList = ObjectList<IZolSmartCutSearchResultList>;
 using _IZolSmartCutSearchDimensionsResultItemList =
-    List<IZolSmartCutSearchDimensionsResultItemList,
-         ZOLObjectTemplateList<IZolSmartCutSearchDimensionsResultItem>>;
-using _IZolRoleSearchItemInfoList =
-    List<IZolRoleSearchItemInfoList, ZOLObjectTemplateList<IZolRoleSearchItemInfo>>;
-using _IGpuInfoList = List<IGpuInfoList, ZOLObjectTemplateList<IGpuInfo>>;
+    ObjectList<IZolSmartCutSearchDimensionsResultItemList>;
+using _IZolRoleSearchItemInfoList = ObjectList<IZolRoleSearchItemInfoList>;
+using _IGpuInfoList = ObjectList<IGpuInfoList>;
 
 }  // namespace
 }  // namespace ZOL

@@ -4,21 +4,26 @@
 
 #include "frame/ref.h"
 #include "lists/list.h"
+#include "lists/made_lists.h"
 #include "lists/stores.h"
 
 namespace ZOL {
+
+template class List<ZOLIntList, ZOLTemplateList<int>>;
+template class List<ZOLLonglongList, ZOLTemplateList<long long>>;
+
 namespace {
 
-using _ZOLIntList = List<ZOLIntList, ZOLTemplateList<int>>;
+using _ZOLIntList = ValueList<ZOLIntList>;
 using _ZOLBoolList = List<ZOLBoolList, ZOLTemplateList<int>>;
-using _ZOLFLOATList = List<ZOLFLOATList, ZOLTemplateList<float>>;
-using _ZOLREALList = List<ZOLREALList, ZOLTemplateList<double>>;
-using _ZOLLonglongList = List<ZOLLonglongList, ZOLTemplateList<long long>>;
-using _ZOLULonglongList = List<ZOLULonglongList, ZOLTemplateList<unsigned long long>>;
+using _ZOLFLOATList = ValueList<ZOLFLOATList>;
+using _ZOLREALList = ValueList<ZOLREALList>;
+using _ZOLLonglongList = ValueList<ZOLLonglongList>;
+using _ZOLULonglongList = ValueList<ZOLULonglongList>;
 using _ZOLIntPtrList = List<ZOLIntPtrList, ZOLTemplateList<unsigned long long>>;
-using _ZOLVoidPtrList = List<ZOLVoidPtrList, ZOLTemplateList<void*>>;
-using _ZOLPByteList = List<ZOLPByteList, ZOLTemplateList<unsigned char*>>;
-using _ZolValueList = List<ZolValueList, ZOLTemplateList<ZolValue>>;
+using _ZOLVoidPtrList = ValueList<ZOLVoidPtrList>;
+using _ZOLPByteList = ValueList<ZOLPByteList>;
+using _ZolValueList = ValueList<ZolValueList>;
 
 }  // namespace
 }  // namespace ZOL
