@@ -7,15 +7,19 @@
 
 #include <map>
 #include <string>
+#include <utility>
 
 #include "frame/counted.h"
 #include "frame/fields.h"
 #include "frame/ref.h"
+#include "frame/shared_text.h"
 
 namespace ZOL {
 
 class ZolSliceItem final : public Counted<IZolSliceItem, IZolSliceItemInternal, RefCnt<void>> {
  public:
+  using Counted::Counted;
+
   void* queryInterface(const char* name) override {
     return answer<IZolSliceItem, IZolSliceItemInternal, IDmBaseObj>(this, name);
   }
@@ -32,6 +36,9 @@ class ZolSliceItem final : public Counted<IZolSliceItem, IZolSliceItemInternal, 
   int setKeyValues(ZOLPCharList* keys, ZOLPCharList* values) override;
   IZolBGRData* faceImage() override { return faceImage_.get(); }
   int setFaceImage(IZolBGRData* image) override { return faceImage_.set(image); }
+
+  // The same text, shared.
+  void setLabel(SharedText text) { label_.set(std::move(text)); }
 
  private:
   TextTakingNull label_;
@@ -66,6 +73,10 @@ class ZolDemensionsItem final
   void takeSliceItems(Ref<IZolSliceItemList> slices) { sliceItems_ = std::move(slices); }
   void takeLabelSliceItems(const char* label, Ref<IZolSliceItemList> slices) {
     labelSliceItems_[label] = std::move(slices);
+  }
+  void takeScores(Ref<ZOLLonglongList> times, Ref<ZOLIntList> scores) {
+    scoreTimes_ = std::move(times);
+    scores_ = std::move(scores);
   }
 
  private:

@@ -9,11 +9,19 @@
 //
 // What is missing or of another type is passed over.
 
+#include <array>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <utility>
+
 #include "cutscript/analysis_items.h"
 #include "cutscript/base64.h"
 #include "cutscript/time_text.h"
+#include "frame/batch.h"
 #include "frame/number_text.h"
 #include "json/document.h"
+#include "lists/made_lists.h"
 
 namespace ZOL {
 namespace {
@@ -22,6 +30,7 @@ using json::Member;
 using json::Value;
 
 enum : int { kSpeech = 1, kFaceCluster = 10 };
+constexpr int kUnscored = 100;
 
 struct LabelledDimension {
   int type;
@@ -38,59 +47,109 @@ constexpr LabelledDimension kLabelledDimensions[] = {
     {11, "action", true, false},         {12, "shot_size", true, false},
 };
 
-Ref<IZolSliceItemList> newSliceList() {
-  return Ref<IZolSliceItemList>::adopt(createIZolSliceItemList());
+bool readSpan(Value element, Span& span) {
+  return element.isString() && ZOL::readSpan(element.text(), span);
 }
 
-// A slice of a span text, or none.
-Ref<ZolSliceItem> readSlice(const char* label, Value element) {
-  const char* const text = element.text();
-  const auto span = text ? spanOf(text) : std::nullopt;
-  if (!span) return nullptr;
-  Ref<ZolSliceItem> slice = makeRef<ZolSliceItem>();
-  slice->setLabel(label);
-  slice->setStartTime(span->start);
-  slice->setEndTime(span->end);
-  return slice;
+using SliceList = ObjectList<IZolSliceItemList>;
+
+// Makes the slices of a list, many in one piece of memory. They have a label in common,
+// or each its own.
+class SliceMaker {
+ public:
+  explicit SliceMaker(std::size_t most) : left_(most) { list_->elements().reserve(most); }
+
+  ZolSliceItem& addWithLabel(std::string_view label) {
+    ZolSliceItem& slice = add(label);
+    slice.setLabel(batch_->put(label));
+    return slice;
+  }
+  ZolSliceItem& addWithCommonLabel(std::string_view label) {
+    ZolSliceItem& slice = add(label);
+    if (isFirstOfBatch_) commonLabel_ = batch_->put(label);
+    slice.setLabel(batch_->again(commonLabel_));
+    return slice;
+  }
+
+  Ref<SliceList> giveList() { return std::move(list_); }
+
+ private:
+  ZolSliceItem& add(std::string_view label) {
+    isFirstOfBatch_ = !batch_ || !batch_->hasRoom<ZolSliceItem>();
+    if (isFirstOfBatch_) {
+      batch_.emplace(left_ * (Batch::room<ZolSliceItem>() + SharedText::room(label)));
+    }
+    --left_;
+    Ref<ZolSliceItem> slice = batch_->make<ZolSliceItem>();
+    ZolSliceItem& added = *slice.get();
+    list_->elements().push_back(std::move(slice));
+    return added;
+  }
+
+  Ref<SliceList> list_ = makeRef<SliceList>();
+  std::optional<Batch> batch_;
+  bool isFirstOfBatch_ = true;
+  SharedText commonLabel_;
+  std::size_t left_;
+};
+
+// ["0:0:1Z-0:0:4Z", ...]; what is no span of time is passed over.
+Ref<SliceList> readSlices(Value spans, const char* label, int score, IZolBGRData* face) {
+  SliceMaker slices(spans.size());
+  Span span{};
+  for (const Value element : spans.elements()) {
+    if (!readSpan(element, span)) continue;
+    ZolSliceItem& slice = slices.addWithCommonLabel(label);
+    slice.setStartTime(span.start);
+    slice.setEndTime(span.end);
+    slice.setScore(score);
+    if (face) slice.setFaceImage(face);
+  }
+  return slices.giveList();
 }
 
 // [80, 75]: samples a second apart. What is no number is no sample and takes no time.
 void readScores(Value samples, ZolDemensionsItem& item) {
   if (!samples.isArray()) return;
-  const auto times = Ref<ZOLLonglongList>::adopt(createZOLLonglongList());
-  const auto scores = Ref<ZOLIntList>::adopt(createZOLIntList());
-  long long time = 0;
+  auto times = makeRef<ValueList<ZOLLonglongList>>();
+  auto scores = makeRef<ValueList<ZOLIntList>>();
+  std::vector<int>& scored = scores->elements();
+  scored.reserve(samples.size());
   for (const Value sample : samples.elements()) {
-    const auto score = sample.integer32();
-    if (!score) continue;
-    times->add(time);
-    scores->add(*score);
-    time += 1000;
+    if (const auto score = sample.integer32()) scored.push_back(*score);
   }
-  item.setScores(times.get(), scores.get());
+  std::vector<long long>& timed = times->elements();
+  timed.resize(scored.size());
+  for (std::size_t i = 0; i < timed.size(); ++i) timed[i] = static_cast<long long>(i) * 1000;
+  item.takeScores(std::move(times), std::move(scores));
+}
+
+bool hasSpan(Value spans) {
+  Span span{};
+  for (const Value element : spans.elements()) {
+    if (readSpan(element, span)) return true;
+  }
+  return false;
 }
 
 // {"pan": ["0:0:1Z-0:0:4Z"], "tilt": [...]}; a label whose value is no array is passed
-// over.
+// over. A label that is a score must be a number as soon as it has a span.
 void readLabels(Value labels, const LabelledDimension& dimension, ZolDemensionsItem& item) {
+  const char* label = nullptr;
+  Value spans;
+  int score = kUnscored;
   for (const Member member : labels.members()) {
     if (!member.value.isArray()) continue;
-    const char* const label = member.key->text;
-    Ref<IZolSliceItemList> slices = newSliceList();
-    for (const Value element : member.value.elements()) {
-      const Ref<ZolSliceItem> slice = readSlice(label, element);
-      if (!slice) continue;
-      if (dimension.labelIsScore) slice->setScore(textToInt(label));
-      slices->add(slice.get());
-    }
+    label = member.key->text;
+    spans = member.value;
+    if (dimension.labelIsScore && hasSpan(spans)) score = textToInt(label);
     if (dimension.byLabel) {
-      item.takeLabelSliceItems(label, std::move(slices));
-    } else {
-      // On purpose each label takes the place of the one before: of a flat dimension
-      // the slices of the last label alone remain.
-      item.takeSliceItems(std::move(slices));
+      item.takeLabelSliceItems(label, readSlices(spans, label, kUnscored, nullptr));
     }
   }
+  // On purpose each label of a flat dimension takes the place of the one before, so the
+  // last is the only one whose slices need to be read.
+  if (spans && !dimension.byLabel) item.takeSliceItems(readSlices(spans, label, score, nullptr));
 }
 
 // {"labels": {...}, "scores": [...]}. On purpose nothing comes of a member
@@ -137,16 +196,9 @@ void readFaceClusters(Value clusters, Value imageMap, ZolKeyMatrixInfo& report) 
   }
   if (!last) return;
   const Ref<IZolBGRData> image = readFaceImage(imageMap, name);
-  Ref<IZolSliceItemList> slices = newSliceList();
-  for (const Value element : last.elements()) {
-    const Ref<ZolSliceItem> slice = readSlice(name, element);
-    if (!slice) continue;
-    slice->setFaceImage(image.get());
-    slices->add(slice.get());
-  }
   const Ref<ZolDemensionsItem> item = makeRef<ZolDemensionsItem>();
   item->setDimensionType(kFaceCluster);
-  item->takeSliceItems(std::move(slices));
+  item->takeSliceItems(readSlices(last, name, kUnscored, image.get()));
   report.setDimensionItem(kFaceCluster, item.get());
 }
 
@@ -156,22 +208,19 @@ void readSpeech(Value sentences, ZolKeyMatrixInfo& report) {
   static constexpr auto kMembers = json::namesOf("begin_time", "end_time", "text");
 
   if (!sentences.isArray()) return;
-  Ref<IZolSliceItemList> slices = newSliceList();
+  SliceMaker slices(sentences.size());
   for (const Value sentence : sentences.elements()) {
     const auto in = json::sortIn(kMembers, sentence);
     const auto begin = in[kBeginTime].integer32();
     const auto end = in[kEndTime].integer32();
-    const char* const text = in[kText].text();
-    if (!begin || !end || !text) continue;
-    const Ref<ZolSliceItem> slice = makeRef<ZolSliceItem>();
-    slice->setStartTime(*begin);
-    slice->setEndTime(*end);
-    slice->setLabel(text);
-    slices->add(slice.get());
+    if (!begin || !end || !in[kText].isString()) continue;
+    ZolSliceItem& slice = slices.addWithLabel(in[kText].bytes());
+    slice.setStartTime(*begin);
+    slice.setEndTime(*end);
   }
   const Ref<ZolDemensionsItem> item = makeRef<ZolDemensionsItem>();
   item->setDimensionType(kSpeech);
-  item->takeSliceItems(std::move(slices));
+  item->takeSliceItems(slices.giveList());
   report.setDimensionItem(kSpeech, item.get());
 }
 
@@ -184,20 +233,63 @@ void readKeywords(Value words, ZolKeyMatrixInfo& report) {
   report.setKeywords(keywords.get());
 }
 
+// Reads most members as soon as they are parsed; of several with one name the first. What
+// may fail with an exception waits for the end, where the text is known to be a report,
+// and so do the faces, whose images may stand behind them.
+class ReportReader final : public json::RootWatcher {
+ public:
+  void begin() override {
+    report_ = makeRef<ZolKeyMatrixInfo>();
+    seen_ = {};
+    seenSpeech_ = false;
+    seenKeywords_ = false;
+  }
+  bool takes(const json::Node* key, Value value) override {
+    if (!key) return true;
+    const std::string_view name = Member{key, value}.name();
+    for (std::size_t i = 0; i < std::size(kLabelledDimensions); ++i) {
+      const LabelledDimension& dimension = kLabelledDimensions[i];
+      if (name != dimension.member) continue;
+      if (dimension.labelIsScore) return false;
+      if (!std::exchange(seen_[i], true)) readLabelledDimension(value, dimension, *report_.get());
+      return true;
+    }
+    if (name == kSpeechMember && !std::exchange(seenSpeech_, true))
+      readSpeech(value, *report_.get());
+    if (name == kKeywordsMember && !std::exchange(seenKeywords_, true)) {
+      readKeywords(value, *report_.get());
+    }
+    return name != kClustersMember && name != kImagesMember;
+  }
+
+  IZolKeyMatrixInfo* readRest(Value root) {
+    for (const LabelledDimension& dimension : kLabelledDimensions) {
+      if (dimension.labelIsScore) {
+        readLabelledDimension(root.member(dimension.member), dimension, *report_.get());
+      }
+    }
+    readFaceClusters(root.member(kClustersMember), root.member(kImagesMember), *report_.get());
+    return report_.give();
+  }
+
+ private:
+  static constexpr const char* kSpeechMember = "stt";
+  static constexpr const char* kKeywordsMember = "keywords";
+  static constexpr const char* kClustersMember = "face_cluster";
+  static constexpr const char* kImagesMember = "face_image_map";
+
+  Ref<ZolKeyMatrixInfo> report_;
+  std::array<bool, std::size(kLabelledDimensions)> seen_{};
+  bool seenSpeech_ = false;
+  bool seenKeywords_ = false;
+};
+
 }  // namespace
 }  // namespace ZOL
 
 ZOL::IZolKeyMatrixInfo* createKeyMatrixInfo(const char* text) {
   if (!text) return nullptr;
-  const ZOL::json::Document document(text);
-  const ZOL::json::Value root = document.root();
-  if (!root.isObject()) return nullptr;
-  auto report = ZOL::makeRef<ZOL::ZolKeyMatrixInfo>();
-  for (const auto& dimension : ZOL::kLabelledDimensions) {
-    ZOL::readLabelledDimension(root.member(dimension.member), dimension, *report.get());
-  }
-  ZOL::readFaceClusters(root.member("face_cluster"), root.member("face_image_map"), *report.get());
-  ZOL::readSpeech(root.member("stt"), *report.get());
-  ZOL::readKeywords(root.member("keywords"), *report.get());
-  return report.give();
+  ZOL::ReportReader reader;
+  const ZOL::json::Document document(text, reader);
+  return document.root().isObject() ? reader.readRest(document.root()) : nullptr;
 }

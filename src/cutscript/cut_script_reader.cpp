@@ -13,10 +13,17 @@
 // What is missing or of another type is passed over. An element of "script", "text"
 // or "highlight" that is no object is taken as one without members.
 
+#include <array>
+#include <initializer_list>
+#include <vector>
+
 #include "cutscript/cut_scripts.h"
 #include "cutscript/records.h"
 #include "cutscript/wrap.h"
+#include "frame/batch.h"
+#include "frame/shared_text.h"
 #include "json/document.h"
+#include "lists/made_lists.h"
 
 namespace ZOL {
 namespace {
@@ -24,33 +31,43 @@ namespace {
 using json::Value;
 
 // {"start_time": 0, "end_time": 900, "text": ..., "broll": {...}}
-Ref<ZolTextInfo> readText(Value item) {
+struct TextMembers {
   enum : std::size_t { kStartTime, kEndTime, kText, kBroll };
-  static constexpr auto kMembers = json::namesOf("start_time", "end_time", "text", "broll");
   enum : std::size_t { kBrollFileName, kBrollStartTime, kBrollEndTime };
+  static constexpr auto kMembers = json::namesOf("start_time", "end_time", "text", "broll");
   static constexpr auto kBrollMembers = json::namesOf("file_name", "start_time", "end_time");
 
-  const auto in = json::sortIn(kMembers, item);
-  Ref<ZolTextInfo> text = makeRef<ZolTextInfo>();
-  if (const auto start = in[kStartTime].integer64()) text->setStart(*start);
-  if (const auto end = in[kEndTime].integer64()) text->setEnd(*end);
+  explicit TextMembers(Value item)
+      : in(json::sortIn(kMembers, item)), broll(json::sortIn(kBrollMembers, in[kBroll])) {}
+
+  std::array<Value, 4> in;
+  std::array<Value, 3> broll;
+};
+
+Ref<ZolTextInfo> readText(const TextMembers& members, Batch& batch) {
+  const auto& in = members.in;
+  const auto& broll = members.broll;
+  Ref<ZolTextInfo> text = batch.make<ZolTextInfo>();
+  if (const auto start = in[TextMembers::kStartTime].integer64()) text->setStart(*start);
+  if (const auto end = in[TextMembers::kEndTime].integer64()) text->setEnd(*end);
   // On purpose "text" must be an integer, and an integer has no text: whatever stands
   // here, the item's text is empty.
-  if (in[kText].integer64()) text->setText(in[kText].text());
-  const auto broll = json::sortIn(kBrollMembers, in[kBroll]);
-  if (const char* const fileName = broll[kBrollFileName].text()) text->setBrollFileName(fileName);
-  if (const auto start = broll[kBrollStartTime].integer64()) text->setBrollStart(*start);
-  if (const auto end = broll[kBrollEndTime].integer64()) text->setBrollEnd(*end);
+  if (in[TextMembers::kText].integer64()) text->setText(in[TextMembers::kText].text());
+  text->setBrollFileName(batch.put(broll[TextMembers::kBrollFileName].bytes()));
+  if (const auto start = broll[TextMembers::kBrollStartTime].integer64()) {
+    text->setBrollStart(*start);
+  }
+  if (const auto end = broll[TextMembers::kBrollEndTime].integer64()) text->setBrollEnd(*end);
   return text;
 }
 
 // {"start_time": 0, "end_time": 900, "class": ...}
-Ref<ZolHighlightInfo> readHighlight(Value item) {
+Ref<ZolHighlightInfo> readHighlight(Value item, Batch& batch) {
   enum : std::size_t { kStartTime, kEndTime, kClass };
   static constexpr auto kMembers = json::namesOf("start_time", "end_time", "class");
 
   const auto in = json::sortIn(kMembers, item);
-  Ref<ZolHighlightInfo> highlight = makeRef<ZolHighlightInfo>();
+  Ref<ZolHighlightInfo> highlight = batch.make<ZolHighlightInfo>();
   if (const auto start = in[kStartTime].integer64()) highlight->setTrimIn(*start);
   if (const auto end = in[kEndTime].integer64()) highlight->setTrimOut(*end);
   // On purpose "class" must be an integer to be looked at, and an integer is never the
@@ -73,21 +90,18 @@ class ScriptReader {
     const auto in = json::sortIn(kMembers, script);
     if (!in[kScript].isArray() || in[kScript].size() == 0) return;
     const char* const music = in[kMusic].text();
-    ScriptReader reader(music && !sameText(music, "t2m") ? 1 : 0);
+    ScriptReader reader(music && !sameText(music, "t2m") ? 1 : 0, in[kScript].size());
     for (const Value item : in[kScript].elements()) reader.readItem(item);
     reader.closeMusic();
-    if (reader.entry_.music->size() == 0) {
-      reader.addWholeMusic(in[kOverallDescription].text());
-    }
-    if (const char* const title = in[kTitle].text()) reader.entry_.title = title;
-    out.append(std::move(reader.entry_));
+    if (reader.music_->size() == 0) reader.addWholeMusic(in[kOverallDescription]);
+    out.append({SharedText(in[kTitle].bytes()), std::move(reader.rows_), std::move(reader.clips_),
+                std::move(reader.music_)});
   }
 
  private:
-  explicit ScriptReader(int musicType) : musicType_(musicType) {
-    entry_.storyboards = Ref<IZolStoryboardInfoList>::adopt(createIZolStoryboardInfoList());
-    entry_.clips = Ref<IZolSmartCutClipInfoList>::adopt(createIZolSmartCutClipInfoList());
-    entry_.music = Ref<IZolMusicInfoList>::adopt(createIZolMusicInfoList());
+  ScriptReader(int musicType, std::size_t items) : musicType_(musicType) {
+    rows_->elements().reserve(items);
+    clips_->elements().reserve(items);
   }
 
   void readItem(Value item) {
@@ -107,8 +121,13 @@ class ScriptReader {
                       "file_name", "text", "highlight");
 
     const auto in = json::sortIn(kMembers, item);
-    const Ref<ZolSmartCutClipInfo> clip = makeRef<ZolSmartCutClipInfo>();
-    const Ref<ZolStoryboardInfo> row = makeRef<ZolStoryboardInfo>();
+    texts_.clear();
+    for (const Value text : in[kText].elements()) texts_.emplace_back(text);
+    Batch batch(roomOfItem(in[kHighlight].size(),
+                           {in[kTitle], in[kSubtitle], in[kDescription], in[kFileName]}));
+
+    Ref<ZolSmartCutClipInfo> clip = batch.make<ZolSmartCutClipInfo>();
+    Ref<ZolStoryboardInfo> row = batch.make<ZolStoryboardInfo>();
     if (const char* const name = in[kScriptClass].text()) readClass(name, *row.get(), *clip.get());
     const bool opensMusic = openMusic_ && row->scriptClass() == kChapterRow;
 
@@ -123,35 +142,48 @@ class ScriptReader {
       row->setEnd(minus(plus(offset_, *end), clip->start()));
       clip->setEnd(*end);
     }
-    if (const char* const title = in[kTitle].text()) {
-      row->setTitle(title);
-      clip->setTitle(title);
-    }
-    if (const char* const subtitle = in[kSubtitle].text()) {
-      row->setSubtitle(subtitle);
-      clip->setSubtitle(subtitle);
-    }
-    if (const char* const description = in[kDescription].text()) {
-      row->setDescription(description);
-      if (opensMusic) openMusic_->setDescription(description);
-    }
-    if (const char* const fileName = in[kFileName].text()) clip->setFileName(fileName);
+    const SharedText title = batch.put(in[kTitle].bytes());
+    row->setTitle(title);
+    clip->setTitle(title);
+    const SharedText subtitle = batch.put(in[kSubtitle].bytes());
+    row->setSubtitle(subtitle);
+    clip->setSubtitle(subtitle);
+    const SharedText description = batch.put(in[kDescription].bytes());
+    row->setDescription(description);
+    if (opensMusic && in[kDescription].isString()) openMusic_->setDescription(description);
+    clip->setFileName(batch.put(in[kFileName].bytes()));
     if (in[kText].isArray()) {
-      const auto texts = Ref<IZolTextInfoList>::adopt(createIZolTextInfoList());
-      for (const Value text : in[kText].elements()) texts->add(readText(text).get());
-      clip->setTextInfoList(texts.get());
+      auto texts = batch.make<ObjectList<IZolTextInfoList>>();
+      texts->elements().reserve(texts_.size());
+      for (const TextMembers& text : texts_) texts->elements().push_back(readText(text, batch));
+      clip->setTextInfoList(std::move(texts));
     }
     if (in[kHighlight].isArray()) {
-      const auto highlights = Ref<IZolHighlightInfoList>::adopt(createIZolHighlightInfoList());
+      auto highlights = batch.make<ObjectList<IZolHighlightInfoList>>();
+      highlights->elements().reserve(in[kHighlight].size());
       for (const Value highlight : in[kHighlight].elements()) {
-        highlights->add(readHighlight(highlight).get());
+        highlights->elements().push_back(readHighlight(highlight, batch));
       }
-      clip->setHighlightInfoList(highlights.get());
+      clip->setHighlightInfoList(std::move(highlights));
     }
-    entry_.storyboards->add(row.get());
-    entry_.clips->add(clip.get());
     if (row->scriptClass() != kTitleRow) musicEnd_ = row->end();  // a title has no music
     offset_ = plus(minus(offset_, row->start()), row->end());
+    rows_->elements().push_back(std::move(row));
+    clips_->elements().push_back(std::move(clip));
+  }
+
+  // What all objects and texts that come of an item take together.
+  std::size_t roomOfItem(std::size_t highlights, std::initializer_list<Value> itemTexts) const {
+    std::size_t room = Batch::room<ZolSmartCutClipInfo>() + Batch::room<ZolStoryboardInfo>() +
+                       Batch::room<ObjectList<IZolTextInfoList>>() +
+                       Batch::room<ObjectList<IZolHighlightInfoList>>() +
+                       texts_.size() * Batch::room<ZolTextInfo>() +
+                       highlights * Batch::room<ZolHighlightInfo>();
+    for (const Value text : itemTexts) room += SharedText::room(text.bytes());
+    for (const TextMembers& text : texts_) {
+      room += SharedText::room(text.broll[TextMembers::kBrollFileName].bytes());
+    }
+    return room;
   }
 
   void readClass(const char* name, ZolStoryboardInfo& row, ZolSmartCutClipInfo& clip) {
@@ -173,24 +205,42 @@ class ScriptReader {
   void closeMusic() {
     if (!openMusic_) return;
     openMusic_->setEnd(musicEnd_);
-    entry_.music->add(openMusic_.get());
-    openMusic_ = nullptr;
+    music_->elements().push_back(std::move(openMusic_));
   }
 
   // The one section of a script without chapters.
-  void addWholeMusic(const char* description) {
-    const Ref<ZolMusicInfo> music = makeRef<ZolMusicInfo>();
+  void addWholeMusic(Value description) {
+    Ref<ZolMusicInfo> music = makeRef<ZolMusicInfo>();
     music->setMusicType(musicType_);
     music->setEnd(musicEnd_);
-    if (description) music->setDescription(description);
-    entry_.music->add(music.get());
+    music->setDescription(SharedText(description.bytes()));
+    music_->elements().push_back(std::move(music));
   }
 
-  CutScriptEntry entry_;
+  Ref<ObjectList<IZolStoryboardInfoList>> rows_ = makeRef<ObjectList<IZolStoryboardInfoList>>();
+  Ref<ObjectList<IZolSmartCutClipInfoList>> clips_ =
+      makeRef<ObjectList<IZolSmartCutClipInfoList>>();
+  Ref<ObjectList<IZolMusicInfoList>> music_ = makeRef<ObjectList<IZolMusicInfoList>>();
+  std::vector<TextMembers> texts_;  // of the item that is being read
   int musicType_;
   long long offset_ = 0;  // where the finished timeline has got to
   long long musicEnd_ = 0;
   Ref<ZolMusicInfo> openMusic_;
+};
+
+// Reads each script as soon as it is parsed.
+class ScriptsReader final : public json::RootWatcher {
+ public:
+  void begin() override { scripts_ = makeRef<ZolCutScripts>(); }
+  bool takes(const json::Node* key, Value script) override {
+    if (!key) ScriptReader::read(script, *scripts_.get());
+    return true;
+  }
+
+  IZolCutScripts* giveScripts() { return scripts_.give(); }
+
+ private:
+  Ref<ZolCutScripts> scripts_;
 };
 
 }  // namespace
@@ -198,11 +248,7 @@ class ScriptReader {
 
 ZOL::IZolCutScripts* createCutScripts(const char* text) {
   if (!text) return nullptr;
-  const ZOL::json::Document document(text);
-  if (!document.root().isArray()) return nullptr;
-  auto scripts = ZOL::makeRef<ZOL::ZolCutScripts>();
-  for (const ZOL::json::Value script : document.root().elements()) {
-    ZOL::ScriptReader::read(script, *scripts.get());
-  }
-  return scripts.give();
+  ZOL::ScriptsReader reader;
+  const ZOL::json::Document document(text, reader);
+  return document.root().isArray() ? reader.giveScripts() : nullptr;
 }

@@ -13,7 +13,7 @@ long long ZolCutScripts::scriptCount() { return static_cast<long long>(entries_.
 
 const char* ZolCutScripts::scriptTitle(int index) {
   const CutScriptEntry* const entry = entryAt(index);
-  return entry ? entry->title.c_str() : "";
+  return entry ? entry->title.get() : "";
 }
 
 IZolStoryboardInfoList* ZolCutScripts::storyboardInfoList(int index) {

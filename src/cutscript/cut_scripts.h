@@ -5,17 +5,17 @@
 
 #include <KyDataStructure/cutscript.h>
 
-#include <string>
 #include <vector>
 
 #include "frame/counted.h"
 #include "frame/ref.h"
+#include "frame/shared_text.h"
 
 namespace ZOL {
 
 // Rows and clips are filled in step: index i of one is index i of the other.
 struct CutScriptEntry {
-  std::string title;
+  SharedText title;
   Ref<IZolStoryboardInfoList> storyboards;
   Ref<IZolSmartCutClipInfoList> clips;
   Ref<IZolMusicInfoList> music;

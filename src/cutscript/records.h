@@ -6,8 +6,12 @@
 
 #include <KyDataStructure/cutscript.h>
 
+#include <utility>
+
 #include "frame/counted.h"
 #include "frame/fields.h"
+#include "frame/ref.h"
+#include "frame/shared_text.h"
 
 namespace ZOL {
 
@@ -16,6 +20,8 @@ enum ScriptClass : int { kPlainRow = 0, kTitleRow = 1, kChapterRow = 2, kFrameRo
 class ZolStoryboardInfo final
     : public Counted<IZolStoryboardInfo, IZolStoryboardInfoInternal, RefCnt<void>> {
  public:
+  using Counted::Counted;
+
   void* queryInterface(const char* name) override {
     return answer<IZolStoryboardInfo, IZolStoryboardInfoInternal, IDmBaseObj>(this, name);
   }
@@ -33,6 +39,11 @@ class ZolStoryboardInfo final
   long long end() override { return end_.get(); }
   int setEnd(long long end) override { return end_.set(end); }
 
+  // The same texts, shared.
+  void setTitle(SharedText text) { title_.set(std::move(text)); }
+  void setSubtitle(SharedText text) { subtitle_.set(std::move(text)); }
+  void setDescription(SharedText text) { description_.set(std::move(text)); }
+
  private:
   Plain<int> scriptClass_;
   TextTakingNull title_;
@@ -45,6 +56,8 @@ class ZolStoryboardInfo final
 class ZolSmartCutClipInfo final
     : public Counted<IZolSmartCutClipInfo, IZolSmartCutClipInfoInternal, RefCnt<void>> {
  public:
+  using Counted::Counted;
+
   void* queryInterface(const char* name) override {
     return answer<IZolSmartCutClipInfo, IZolSmartCutClipInfoInternal, IDmBaseObj>(this, name);
   }
@@ -68,6 +81,16 @@ class ZolSmartCutClipInfo final
     return highlightInfoList_.set(list);
   }
 
+  // The same texts, shared.
+  void setTitle(SharedText text) { title_.set(std::move(text)); }
+  void setSubtitle(SharedText text) { subtitle_.set(std::move(text)); }
+  void setFileName(SharedText text) { fileName_.set(std::move(text)); }
+  // The same lists, handed over.
+  void setTextInfoList(Ref<IZolTextInfoList> list) { textInfoList_.set(std::move(list)); }
+  void setHighlightInfoList(Ref<IZolHighlightInfoList> list) {
+    highlightInfoList_.set(std::move(list));
+  }
+
  private:
   Plain<int> scriptClass_;
   TextTakingNull title_;
@@ -81,6 +104,8 @@ class ZolSmartCutClipInfo final
 
 class ZolTextInfo final : public Counted<IZolTextInfo, IZolTextInfoInternal, RefCnt<void>> {
  public:
+  using Counted::Counted;
+
   void* queryInterface(const char* name) override {
     return answer<IZolTextInfo, IZolTextInfoInternal, IDmBaseObj>(this, name);
   }
@@ -99,6 +124,9 @@ class ZolTextInfo final : public Counted<IZolTextInfo, IZolTextInfoInternal, Ref
   long long brollEnd() override { return brollEnd_.get(); }
   int setBrollEnd(long long end) override { return brollEnd_.set(end); }
 
+  // The same text, shared.
+  void setBrollFileName(SharedText text) { brollFileName_.set(std::move(text)); }
+
  private:
   Plain<long long> start_;
   Plain<long long> end_;
@@ -111,6 +139,8 @@ class ZolTextInfo final : public Counted<IZolTextInfo, IZolTextInfoInternal, Ref
 class ZolHighlightInfo final
     : public Counted<IZolHighlightInfo, IZolHighlightInfoInternal, RefCnt<void>> {
  public:
+  using Counted::Counted;
+
   void* queryInterface(const char* name) override {
     return answer<IZolHighlightInfo, IZolHighlightInfoInternal, IDmBaseObj>(this, name);
   }
@@ -146,6 +176,9 @@ class ZolMusicInfo final : public Counted<IZolMusicInfo, IZolMusicInfoInternal, 
   int setDescription(const char* text) override { return description_.set(text); }
   const char* note() override { return note_.get(); }
   int setNote(const char* text) override { return note_.set(text); }
+
+  // The same text, shared.
+  void setDescription(SharedText text) { description_.set(std::move(text)); }
 
  private:
   Plain<int> musicType_;
