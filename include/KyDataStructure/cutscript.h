@@ -26,6 +26,8 @@ class IZolHighlightInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolHighlightInfo";
 
+  /// The kind of the highlight and its span in the clip.
+  ///@{
   virtual int setHLType(int type) = 0;
   /// 0 for an emotion, 1 for any other kind, as far as the library knows.
   virtual int hlType() = 0;
@@ -33,6 +35,8 @@ class IZolHighlightInfo : public virtual IDmBaseObj {
   virtual int setTrimIn(long long trimIn) = 0;
   virtual long long trimOut() = 0;
   virtual int setTrimOut(long long trimOut) = 0;
+  ///@}
+
   /// Writes `{"HLType":0,"trimIn":0,"trimOut":0}` into `out`. Null is refused.
   virtual int toJson(IZolString* out) = 0;
   /// Reads such a text: comments and a trailing comma are allowed, what follows
@@ -50,9 +54,12 @@ class IZolHighlightInfoInternal {
  public:
   static constexpr const char* interfaceName = "IZolHighlightInfoInternal";
 
+  /// As the setters of IZolHighlightInfo.
+  ///@{
   virtual int setHLType(int type) = 0;
   virtual int setTrimIn(long long trimIn) = 0;
   virtual int setTrimOut(long long trimOut) = 0;
+  ///@}
 
  protected:
   ~IZolHighlightInfoInternal() = default;
@@ -63,11 +70,15 @@ class IZolMusicInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolMusicInfo";
 
+  /// The music type of a reply is 0 for "t2m" and 1 for any other; start and end lie on
+  /// the finished timeline. The note is the callers' own: no reader sets it.
+  ///@{
   virtual int musicType() = 0;
   virtual long long start() = 0;
   virtual long long end() = 0;
   virtual const char* description() = 0;
   virtual const char* note() = 0;
+  ///@}
 
  protected:
   ~IZolMusicInfo() = default;
@@ -78,11 +89,14 @@ class IZolMusicInfoInternal : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolMusicInfoInternal";
 
+  /// Any number is taken, and texts are copied.
+  ///@{
   virtual int setMusicType(int type) = 0;
   virtual int setStart(long long start) = 0;
   virtual int setEnd(long long end) = 0;
   virtual int setDescription(const char* text) = 0;
   virtual int setNote(const char* text) = 0;
+  ///@}
 
  protected:
   ~IZolMusicInfoInternal() = default;
@@ -93,12 +107,15 @@ class IZolStoryboardInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolStoryboardInfo";
 
+  /// The fields of the row; start and end lie on the finished timeline.
+  ///@{
   virtual int scriptClass() = 0;
   virtual const char* title() = 0;
   virtual const char* subtitle() = 0;
   virtual const char* description() = 0;
   virtual long long start() = 0;
   virtual long long end() = 0;
+  ///@}
 
  protected:
   ~IZolStoryboardInfo() = default;
@@ -109,12 +126,15 @@ class IZolStoryboardInfoInternal : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolStoryboardInfoInternal";
 
+  /// Any number is taken, and texts are copied.
+  ///@{
   virtual int setScriptClass(int scriptClass) = 0;
   virtual int setTitle(const char* text) = 0;
   virtual int setSubtitle(const char* text) = 0;
   virtual int setDescription(const char* text) = 0;
   virtual int setStart(long long start) = 0;
   virtual int setEnd(long long end) = 0;
+  ///@}
 
  protected:
   ~IZolStoryboardInfoInternal() = default;
@@ -125,6 +145,8 @@ class IZolTextInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolTextInfo";
 
+  /// The text with its span in the clip, and the b-roll with its span in its own file.
+  ///@{
   virtual long long start() = 0;
   virtual long long end() = 0;
   virtual const char* text() = 0;
@@ -133,6 +155,7 @@ class IZolTextInfo : public virtual IDmBaseObj {
   virtual const char* brollFileName() = 0;
   virtual long long brollStart() = 0;
   virtual long long brollEnd() = 0;
+  ///@}
 
  protected:
   ~IZolTextInfo() = default;
@@ -143,12 +166,15 @@ class IZolTextInfoInternal {
  public:
   static constexpr const char* interfaceName = "IZolTextInfoInternal";
 
+  /// Any number is taken, and texts are copied.
+  ///@{
   virtual int setStart(long long start) = 0;
   virtual int setEnd(long long end) = 0;
   virtual int setText(const char* text) = 0;
   virtual int setBrollFileName(const char* text) = 0;
   virtual int setBrollStart(long long start) = 0;
   virtual int setBrollEnd(long long end) = 0;
+  ///@}
 
  protected:
   ~IZolTextInfoInternal() = default;
@@ -159,6 +185,8 @@ class IZolSmartCutClipInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutClipInfo";
 
+  /// The fields of the clip; start and end lie in its own file.
+  ///@{
   virtual int scriptClass() = 0;
   // On purpose before the title here, and behind the subtitle on the writing side.
   virtual const char* fileName() = 0;
@@ -166,6 +194,8 @@ class IZolSmartCutClipInfo : public virtual IDmBaseObj {
   virtual const char* subtitle() = 0;
   virtual long long start() = 0;
   virtual long long end() = 0;
+  ///@}
+
   /// The stored list itself, lent; null if none.
   virtual IZolTextInfoList* textInfoList() = 0;
   /// The stored list itself, lent; null if none.
@@ -180,12 +210,16 @@ class IZolSmartCutClipInfoInternal {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutClipInfoInternal";
 
+  /// Any number is taken, and texts are copied.
+  ///@{
   virtual int setScriptClass(int scriptClass) = 0;
   virtual int setTitle(const char* text) = 0;
   virtual int setSubtitle(const char* text) = 0;
   virtual int setFileName(const char* text) = 0;
   virtual int setStart(long long start) = 0;
   virtual int setEnd(long long end) = 0;
+  ///@}
+
   /// Kept, not copied: later changes to the list show. Null clears.
   virtual int setTextInfoList(IZolTextInfoList* list) = 0;
   /// Kept, not copied: later changes to the list show. Null clears.
@@ -200,6 +234,8 @@ class IZolTargetScreenInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolTargetScreenInfo";
 
+  /// Lent until it is next set.
+  ///@{
   virtual const char* screenText1() = 0;
   virtual const char* screenText2() = 0;
   virtual const char* screenText3() = 0;
@@ -209,6 +245,7 @@ class IZolTargetScreenInfo : public virtual IDmBaseObj {
   virtual const char* screenText7() = 0;
   virtual const char* screenText8() = 0;
   virtual const char* screenText9() = 0;
+  ///@}
 
  protected:
   ~IZolTargetScreenInfo() = default;
@@ -219,6 +256,8 @@ class IZolTargetScreenInfoInternal {
  public:
   static constexpr const char* interfaceName = "IZolTargetScreenInfoInternal";
 
+  /// Copied.
+  ///@{
   virtual int setScreenText1(const char* text) = 0;
   virtual int setScreenText2(const char* text) = 0;
   virtual int setScreenText3(const char* text) = 0;
@@ -228,6 +267,7 @@ class IZolTargetScreenInfoInternal {
   virtual int setScreenText7(const char* text) = 0;
   virtual int setScreenText8(const char* text) = 0;
   virtual int setScreenText9(const char* text) = 0;
+  ///@}
 
  protected:
   ~IZolTargetScreenInfoInternal() = default;
@@ -240,6 +280,7 @@ class IZolCutScripts : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolCutScripts";
 
+  /// How many scripts there are.
   virtual long long scriptCount() = 0;
   /// The empty text out of range; never null.
   virtual const char* scriptTitle(int index) = 0;
@@ -266,10 +307,10 @@ class IZolSliceItem : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolSliceItem";
 
-  virtual const char* label() = 0;
-  virtual long long startTime() = 0;  // milliseconds
-  virtual long long endTime() = 0;    // milliseconds
-  virtual int score() = 0;            // 100 until set
+  virtual const char* label() = 0;    ///< lent until it is next set
+  virtual long long startTime() = 0;  ///< milliseconds
+  virtual long long endTime() = 0;    ///< milliseconds
+  virtual int score() = 0;            ///< 100 until set
   /// Clears both lists and assigns the stored names and values to them, if both
   /// are stored. Null is refused.
   virtual int getKeyValues(ZOLPCharList* keys, ZOLPCharList* values) = 0;
@@ -287,9 +328,9 @@ class IZolSliceItemInternal {
 
   /// Null is taken as the empty text.
   virtual int setLabel(const char* text) = 0;
-  virtual int setStartTime(long long time) = 0;
-  virtual int setEndTime(long long time) = 0;
-  virtual int setScore(int score) = 0;
+  virtual int setStartTime(long long time) = 0;  ///< milliseconds
+  virtual int setEndTime(long long time) = 0;    ///< milliseconds
+  virtual int setScore(int score) = 0;           ///< any number is taken
   /// Copies both lists. Refused for null and for lists of different sizes.
   virtual int setKeyValues(ZOLPCharList* keys, ZOLPCharList* values) = 0;
   /// Kept; null clears.
@@ -304,11 +345,13 @@ class IZolDemensionsItem : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolDemensionsItem";
 
+  /// 1 to 12 in a report: what each stands for is told with the report's format.
   virtual int dimensionType() = 0;
   /// Clears `out` and fills it with the flat list if there is one, and otherwise
   /// with the slices of all labels, in the byte-wise order of the labels. The
   /// slices are shared. Null is refused.
   virtual int getSliceItems(IZolSliceItemList* out) = 0;
+  /// True if slices are held by label.
   virtual bool hasLabels() = 0;
   /// Clears `out` and adds every label, in byte-wise order. Refused for null and
   /// without labels.
@@ -334,6 +377,7 @@ class IZolDemensionsItemInternal {
  public:
   static constexpr const char* interfaceName = "IZolDemensionsItemInternal";
 
+  /// Any number is taken.
   virtual int setDimensionType(int type) = 0;
   /// Null drops the flat list.
   virtual int setSliceItems(IZolSliceItemList* slices) = 0;
@@ -351,6 +395,7 @@ class IZolKeyMatrixInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolKeyMatrixInfo";
 
+  /// Lent until it is next set. No reader sets it.
   virtual const char* matrixName() = 0;
   /// On purpose always refused: the check of the argument is the wrong way
   /// about and stays so. Ask dimensionItem() for the types 1 to 12 instead.
@@ -385,6 +430,8 @@ class IZolKeyMatrixInfoInternal {
 
 extern "C" {
 
+/// A new record, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::IZolStoryboardInfo* createStoryboardInfo();
 KYDATASTRUCTURE_API ZOL::IZolSmartCutClipInfo* createSmartCutClipInfo();
 KYDATASTRUCTURE_API ZOL::IZolTextInfo* createTextInfo();
@@ -393,6 +440,7 @@ KYDATASTRUCTURE_API ZOL::IZolHighlightInfo* createHighlightInfo();
 KYDATASTRUCTURE_API ZOL::IZolMusicInfo* createMusicInfo();
 KYDATASTRUCTURE_API ZOL::IZolSliceItem* createSliceItem();
 KYDATASTRUCTURE_API ZOL::IZolDemensionsItem* createDemensionsItem();
+///@}
 
 /// Reads a cut reply: a JSON array of scripts, zero-terminated. Null for a null
 /// text and for one that is no JSON array. Anything in it that is missing or of

@@ -47,6 +47,7 @@
 #define KYDATASTRUCTURE_API __declspec(dllimport)
 #endif
 #else
+/// Marks what the library exports.
 #define KYDATASTRUCTURE_API __attribute__((visibility("default")))
 #endif
 
@@ -116,25 +117,25 @@ class IDmDeepClonableObj : public virtual IDmBaseObj {
 
 /// The kinds of ZolValue. Their numbers are contract; 7 to 18 are not in use.
 enum _ValueType : std::int32_t {
-  kEmptyValue = 0,
-  kBoolValue = 1,
-  kDoubleValue = 2,
-  kFloatValue = 3,
-  kLonglongValue = 4,
-  kIntValue = 5,
-  kUintValue = 6,
-  kStringValue = 19,
+  kEmptyValue = 0,     ///< nothing
+  kBoolValue = 1,      ///< bool
+  kDoubleValue = 2,    ///< double
+  kFloatValue = 3,     ///< float
+  kLonglongValue = 4,  ///< long long
+  kIntValue = 5,       ///< int
+  kUintValue = 6,      ///< unsigned int
+  kStringValue = 19,   ///< a text of the value's own
 };
 
 /// The payload of a ZolValue.
 union _ZolValueUnion {
-  bool boolean;
-  double number;
-  float shortNumber;
-  long long longInteger;
-  int integer;
-  unsigned int unsignedInteger;
-  const char* text;
+  bool boolean;                  ///< of kBoolValue
+  double number;                 ///< of kDoubleValue
+  float shortNumber;             ///< of kFloatValue
+  long long longInteger;         ///< of kLonglongValue
+  int integer;                   ///< of kIntValue
+  unsigned int unsignedInteger;  ///< of kUintValue
+  const char* text;              ///< of kStringValue; zero-terminated
 };
 static_assert(sizeof(_ZolValueUnion) == 8, "the payload crosses the boundary by value");
 
@@ -145,18 +146,24 @@ static_assert(sizeof(_ZolValueUnion) == 8, "the payload crosses the boundary by 
 /// otherwise false, zero or null.
 class ZolValue {
  public:
+  /// An empty value.
   KYDATASTRUCTURE_API ZolValue();
+  /// A value of the argument's own type.
+  ///@{
   KYDATASTRUCTURE_API ZolValue(bool value);          // NOLINT(google-explicit-constructor)
   KYDATASTRUCTURE_API ZolValue(double value);        // NOLINT(google-explicit-constructor)
   KYDATASTRUCTURE_API ZolValue(float value);         // NOLINT(google-explicit-constructor)
   KYDATASTRUCTURE_API ZolValue(long long value);     // NOLINT(google-explicit-constructor)
   KYDATASTRUCTURE_API ZolValue(int value);           // NOLINT(google-explicit-constructor)
   KYDATASTRUCTURE_API ZolValue(unsigned int value);  // NOLINT(google-explicit-constructor)
+  ///@}
+
   /// The text is copied; null is taken as the empty text.
   KYDATASTRUCTURE_API ZolValue(const char* value);  // NOLINT(google-explicit-constructor)
   /// Takes any type number. Type 19 copies the union's text; every other takes
   /// the union's 64 bits as they are, also those that no operation knows.
   KYDATASTRUCTURE_API ZolValue(_ValueType type, _ZolValueUnion value);
+  /// A copy, with a text of its own.
   KYDATASTRUCTURE_API ZolValue(const ZolValue& other);
   /// On purpose a copy: the source stays whole.
   KYDATASTRUCTURE_API ZolValue(ZolValue&& other);  // NOLINT(performance-noexcept-move-constructor)
@@ -176,24 +183,33 @@ class ZolValue {
   /// Back to the state of `ZolValue()`.
   KYDATASTRUCTURE_API void reset();
 
+  /// Takes the argument and its type.
+  ///@{
   KYDATASTRUCTURE_API void setValue(int value);
   KYDATASTRUCTURE_API void setValue(unsigned int value);
   KYDATASTRUCTURE_API void setValue(float value);
   KYDATASTRUCTURE_API void setValue(double value);
   KYDATASTRUCTURE_API void setValue(long long value);
   KYDATASTRUCTURE_API void setValue(bool value);
+  ///@}
+
   /// The text is copied; null is taken as the empty text.
   KYDATASTRUCTURE_API void setValue(const char* value);
 
+  /// The payload of exactly that type; false or zero for any other.
+  ///@{
   KYDATASTRUCTURE_API bool boolValue();
   KYDATASTRUCTURE_API double doubleValue();
   KYDATASTRUCTURE_API float floatValue();
   KYDATASTRUCTURE_API long long longlongValue();
   KYDATASTRUCTURE_API int intValue();
   KYDATASTRUCTURE_API unsigned int uintValue();
+  ///@}
+
   /// The value's own text, lent; null for any type but text.
   KYDATASTRUCTURE_API const char* charValue();
 
+  /// What is held.
   _ValueType type() const { return type_; }
 
  private:
@@ -240,6 +256,7 @@ class IZolPChar : public IDmBaseObj {
   virtual int setData(const char* data, int size) = 0;
   /// The bytes, lent until the next setData(); null when empty.
   virtual const char* data() = 0;
+  /// In bytes; 0 when empty.
   virtual int size() = 0;
 
  protected:
@@ -254,6 +271,7 @@ class IDataSizeBuffer : public IDmBaseObj {
   /// The bytes, lent until the next setData() and the holder's own to write in;
   /// null until the first setData().
   virtual unsigned char* data() = 0;
+  /// In bytes, without the zero behind the last.
   virtual unsigned long long size() = 0;
   /// Replaces the content; always kSuccess. A size of 0 leaves one zero byte.
   /// With a null `data` the bytes are all zero.
@@ -267,9 +285,12 @@ class IDataSizeBuffer : public IDmBaseObj {
 
 extern "C" {
 
+/// An empty holder, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::IZolString* createZolString();
 KYDATASTRUCTURE_API ZOL::IZolPChar* createZolPChar();
 KYDATASTRUCTURE_API ZOL::IDataSizeBuffer* createDataSizeBuffer();
+///@}
 
 /// Reads a text into a value of the type that the value has already.
 ///

@@ -34,11 +34,14 @@ constexpr const char* kListData = "listData";
 template <class Self, class T>
 class ListInterface : public IDmBaseObj {
  public:
+  /// What the list holds.
   using Element = T;
   /// True when `a` must come before `b`: a strict weak ordering.
   using Compare = bool (*)(T a, T b);
+  /// True when `element` is what is looked for; `key` is the caller's own.
   using Match = bool (*)(T element, T key);
 
+  /// How many elements there are.
   virtual long long size() = 0;
   /// The element; the zero of `T` outside the range.
   virtual T at(long long index) = 0;
@@ -78,56 +81,86 @@ class ListInterface : public IDmBaseObj {
 // cross the boundary by value. The library reads _Property, _Range and _RectF
 // alone; the callers own the meaning of the others.
 
+/// A point of integers.
 struct _PointN {
+  /// In the callers' own unit.
+  ///@{
   std::int32_t x, y;
+  ///@}
 };
 static_assert(sizeof(_PointN) == 8, "crosses the boundary by value");
 
+/// A size of integers.
 struct _SizeN {
+  /// In the callers' own unit.
+  ///@{
   std::int32_t width, height;
+  ///@}
 };
 static_assert(sizeof(_SizeN) == 8, "crosses the boundary by value");
 
+/// A colour of a gradient and where it stands.
 struct _GradientColorComponent {
-  float position;
-  std::uint32_t color;
+  float position;       ///< in the callers' own unit
+  std::uint32_t color;  ///< in the callers' own encoding
 };
 static_assert(sizeof(_GradientColorComponent) == 8, "crosses the boundary by value");
 
+/// A point.
 struct _PointF {
+  /// In the callers' own unit.
+  ///@{
   double x, y;
+  ///@}
 };
 static_assert(sizeof(_PointF) == 16, "crosses the boundary by value");
 
+/// A rectangle of integers.
 struct _RectN {
+  /// In the callers' own unit.
+  ///@{
   std::int32_t left, top, right, bottom;
+  ///@}
 };
 static_assert(sizeof(_RectN) == 16, "crosses the boundary by value");
 
 /// A span; both ends are -1 when there is none.
 struct _Range {
-  std::int64_t start = -1;
-  std::int64_t end = -1;
+  std::int64_t start = -1;  ///< in the callers' own unit
+  std::int64_t end = -1;    ///< in the callers' own unit
 };
 static_assert(sizeof(_Range) == 16, "crosses the boundary by value");
 
+/// A bookmarked section.
 struct _BkMarkInOutSection {
+  /// In the callers' own unit.
+  ///@{
   std::int64_t in, out;
+  ///@}
 };
 static_assert(sizeof(_BkMarkInOutSection) == 16, "crosses the boundary by value");
 
+/// A rectangle; (0, 0, 1, 1) is the whole unit square.
 struct _RectF {
+  /// In the callers' own unit.
+  ///@{
   double left, top, right, bottom;
+  ///@}
 };
 static_assert(sizeof(_RectF) == 32, "crosses the boundary by value");
 
+/// A segment to render and where it comes from.
 struct _RenderSegmentInfo {
+  /// In the callers' own unit.
+  ///@{
   std::int64_t start, end, sourceStart, sourceEnd;
+  ///@}
 };
 static_assert(sizeof(_RenderSegmentInfo) == 32, "crosses the boundary by value");
 
+/// A polygon of four points.
 struct _PolygonF {
-  _PointF points[4];
+  _PointF points[4];  ///< in the callers' own order
 };
 static_assert(sizeof(_PolygonF) == 64, "crosses the boundary by value");
 
@@ -140,19 +173,20 @@ constexpr std::int32_t kPropertyText = 7;
 struct _Property {
   std::int32_t present;  ///< 0 for no value; a writer sets 1
   std::int32_t type;     ///< kPropertyInteger or kPropertyText
-  char value[1024];
+  char value[1024];      ///< an integer in the first 8 bytes, or a text with its zero
 };
 static_assert(sizeof(_Property) == 1032, "crosses the boundary by value");
 
 /// A key frame: a time, two handles and a parameter.
 struct KeyFrameValue {
-  std::int64_t time;
-  _PointF handleIn;
-  _PointF handleOut;
-  _Property property;
+  std::int64_t time;   ///< in the callers' own unit
+  _PointF handleIn;    ///< ahead of the frame
+  _PointF handleOut;   ///< behind the frame
+  _Property property;  ///< the value at that time
 };
 static_assert(sizeof(KeyFrameValue) == 1072, "crosses the boundary by value");
 
+/// Integers.
 class ZOLIntList : public ListInterface<ZOLIntList, int> {
  public:
   static constexpr const char* interfaceName = "ZOLIntList";
@@ -171,6 +205,7 @@ class ZOLBoolList : public ListInterface<ZOLBoolList, int> {
   ~ZOLBoolList() = default;
 };
 
+/// Numbers of single precision.
 class ZOLFLOATList : public ListInterface<ZOLFLOATList, float> {
  public:
   static constexpr const char* interfaceName = "ZOLFLOATList";
@@ -179,6 +214,7 @@ class ZOLFLOATList : public ListInterface<ZOLFLOATList, float> {
   ~ZOLFLOATList() = default;
 };
 
+/// Numbers of double precision.
 class ZOLREALList : public ListInterface<ZOLREALList, double> {
  public:
   static constexpr const char* interfaceName = "ZOLREALList";
@@ -187,6 +223,7 @@ class ZOLREALList : public ListInterface<ZOLREALList, double> {
   ~ZOLREALList() = default;
 };
 
+/// Wide integers.
 class ZOLLonglongList : public ListInterface<ZOLLonglongList, long long> {
  public:
   static constexpr const char* interfaceName = "ZOLLonglongList";
@@ -195,6 +232,7 @@ class ZOLLonglongList : public ListInterface<ZOLLonglongList, long long> {
   ~ZOLLonglongList() = default;
 };
 
+/// Wide integers without a sign.
 class ZOLULonglongList : public ListInterface<ZOLULonglongList, unsigned long long> {
  public:
   static constexpr const char* interfaceName = "ZOLULonglongList";
@@ -239,6 +277,7 @@ class ZolValueList : public ListInterface<ZolValueList, ZolValue> {
   ~ZolValueList() = default;
 };
 
+/// Points on whole pixels.
 class ZOLPointNList : public ListInterface<ZOLPointNList, _PointN> {
  public:
   static constexpr const char* interfaceName = "ZOLPointNList";
@@ -247,6 +286,7 @@ class ZOLPointNList : public ListInterface<ZOLPointNList, _PointN> {
   ~ZOLPointNList() = default;
 };
 
+/// Sizes in whole pixels.
 class ZOLSizeNList : public ListInterface<ZOLSizeNList, _SizeN> {
  public:
   static constexpr const char* interfaceName = "ZOLSizeNList";
@@ -255,6 +295,7 @@ class ZOLSizeNList : public ListInterface<ZOLSizeNList, _SizeN> {
   ~ZOLSizeNList() = default;
 };
 
+/// The colours of a gradient.
 class GradientColorList : public ListInterface<GradientColorList, _GradientColorComponent> {
  public:
   static constexpr const char* interfaceName = "GradientColorList";
@@ -263,6 +304,7 @@ class GradientColorList : public ListInterface<GradientColorList, _GradientColor
   ~GradientColorList() = default;
 };
 
+/// Points.
 class ZOLPointFList : public ListInterface<ZOLPointFList, _PointF> {
  public:
   static constexpr const char* interfaceName = "ZOLPointFList";
@@ -271,6 +313,7 @@ class ZOLPointFList : public ListInterface<ZOLPointFList, _PointF> {
   ~ZOLPointFList() = default;
 };
 
+/// Rectangles on whole pixels.
 class ZOLRectNList : public ListInterface<ZOLRectNList, _RectN> {
  public:
   static constexpr const char* interfaceName = "ZOLRectNList";
@@ -279,6 +322,7 @@ class ZOLRectNList : public ListInterface<ZOLRectNList, _RectN> {
   ~ZOLRectNList() = default;
 };
 
+/// Spans.
 class ZOLRangeList : public ListInterface<ZOLRangeList, _Range> {
  public:
   static constexpr const char* interfaceName = "ZOLRangeList";
@@ -287,6 +331,7 @@ class ZOLRangeList : public ListInterface<ZOLRangeList, _Range> {
   ~ZOLRangeList() = default;
 };
 
+/// Bookmarked sections.
 class BkMarkInOutSectionList : public ListInterface<BkMarkInOutSectionList, _BkMarkInOutSection> {
  public:
   static constexpr const char* interfaceName = "BkMarkInOutSectionList";
@@ -295,6 +340,7 @@ class BkMarkInOutSectionList : public ListInterface<BkMarkInOutSectionList, _BkM
   ~BkMarkInOutSectionList() = default;
 };
 
+/// Rectangles.
 class ZOLRectFList : public ListInterface<ZOLRectFList, _RectF> {
  public:
   static constexpr const char* interfaceName = "ZOLRectFList";
@@ -303,6 +349,7 @@ class ZOLRectFList : public ListInterface<ZOLRectFList, _RectF> {
   ~ZOLRectFList() = default;
 };
 
+/// Segments to render.
 class RenderSegmentInfoList : public ListInterface<RenderSegmentInfoList, _RenderSegmentInfo> {
  public:
   static constexpr const char* interfaceName = "RenderSegmentInfoList";
@@ -311,6 +358,7 @@ class RenderSegmentInfoList : public ListInterface<RenderSegmentInfoList, _Rende
   ~RenderSegmentInfoList() = default;
 };
 
+/// Polygons of four points.
 class ZOLPolygonFList : public ListInterface<ZOLPolygonFList, _PolygonF> {
  public:
   static constexpr const char* interfaceName = "ZOLPolygonFList";
@@ -319,6 +367,7 @@ class ZOLPolygonFList : public ListInterface<ZOLPolygonFList, _PolygonF> {
   ~ZOLPolygonFList() = default;
 };
 
+/// Parameters.
 class PropertyList : public ListInterface<PropertyList, _Property> {
  public:
   static constexpr const char* interfaceName = "PropertyList";
@@ -327,6 +376,7 @@ class PropertyList : public ListInterface<PropertyList, _Property> {
   ~PropertyList() = default;
 };
 
+/// Key frames.
 class KeyFrameValueList : public ListInterface<KeyFrameValueList, KeyFrameValue> {
  public:
   static constexpr const char* interfaceName = "KeyFrameValueList";
@@ -346,7 +396,7 @@ class ZOLPCharList : public ListInterface<ZOLPCharList, const char*> {
   ~ZOLPCharList() = default;
 };
 
-/// Raw memory that the list owns, each block from `::operator new`. On purpose:
+/// Raw memory that the list owns, each block from the global new operator. On purpose:
 /// assign() and insertListAt() take the bare pointers as add() does, so both
 /// lists then own the same blocks without knowing of each other; they are not
 /// for elements that both will drop. A block is freed also when taking it fails
@@ -407,6 +457,7 @@ class IZolSmartCutSearchResult;
 class IZolSmartCutSearchDimensionsResultItem;
 class IZolRoleSearchItemInfo;
 
+/// Masks.
 class IKyMaskInfoDataList : public ListInterface<IKyMaskInfoDataList, IKyMaskInfoData*> {
  public:
   static constexpr const char* interfaceName = "IKyMaskInfoDataList";
@@ -415,6 +466,7 @@ class IKyMaskInfoDataList : public ListInterface<IKyMaskInfoDataList, IKyMaskInf
   ~IKyMaskInfoDataList() = default;
 };
 
+/// Media without alpha.
 class IZolBGRDataList : public ListInterface<IZolBGRDataList, IZolBGRData*> {
  public:
   static constexpr const char* interfaceName = "IZolBGRDataList";
@@ -423,6 +475,7 @@ class IZolBGRDataList : public ListInterface<IZolBGRDataList, IZolBGRData*> {
   ~IZolBGRDataList() = default;
 };
 
+/// Media with alpha.
 class IZolBGRADataList : public ListInterface<IZolBGRADataList, IZolBGRAData*> {
  public:
   static constexpr const char* interfaceName = "IZolBGRADataList";
@@ -431,6 +484,7 @@ class IZolBGRADataList : public ListInterface<IZolBGRADataList, IZolBGRAData*> {
   ~IZolBGRADataList() = default;
 };
 
+/// Effects.
 class IZoEffectInfoList : public ListInterface<IZoEffectInfoList, IZoEffectInfo*> {
  public:
   static constexpr const char* interfaceName = "IZoEffectInfoList";
@@ -439,6 +493,7 @@ class IZoEffectInfoList : public ListInterface<IZoEffectInfoList, IZoEffectInfo*
   ~IZoEffectInfoList() = default;
 };
 
+/// Plug-ins.
 class IZolPluginInfoList : public ListInterface<IZolPluginInfoList, IZolPluginInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolPluginInfoList";
@@ -447,6 +502,7 @@ class IZolPluginInfoList : public ListInterface<IZolPluginInfoList, IZolPluginIn
   ~IZolPluginInfoList() = default;
 };
 
+/// Face clusters.
 class IFaceClusterInfoList : public ListInterface<IFaceClusterInfoList, IFaceClusterInfo*> {
  public:
   static constexpr const char* interfaceName = "IFaceClusterInfoList";
@@ -455,6 +511,7 @@ class IFaceClusterInfoList : public ListInterface<IFaceClusterInfoList, IFaceClu
   ~IFaceClusterInfoList() = default;
 };
 
+/// Entries of an image history.
 class IKyLoraTextToImageHistoryInfoList
     : public ListInterface<IKyLoraTextToImageHistoryInfoList, IKyLoraTextToImageHistoryInfo*> {
  public:
@@ -464,6 +521,7 @@ class IKyLoraTextToImageHistoryInfoList
   ~IKyLoraTextToImageHistoryInfoList() = default;
 };
 
+/// Voices.
 class IKyVoiceDataInfoList : public ListInterface<IKyVoiceDataInfoList, IKyVoiceDataInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyVoiceDataInfoList";
@@ -472,6 +530,7 @@ class IKyVoiceDataInfoList : public ListInterface<IKyVoiceDataInfoList, IKyVoice
   ~IKyVoiceDataInfoList() = default;
 };
 
+/// Scenes.
 class IKyScriptSceneInfoList : public ListInterface<IKyScriptSceneInfoList, IKyScriptSceneInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyScriptSceneInfoList";
@@ -480,6 +539,7 @@ class IKyScriptSceneInfoList : public ListInterface<IKyScriptSceneInfoList, IKyS
   ~IKyScriptSceneInfoList() = default;
 };
 
+/// Characters.
 class IKyScriptCharacterInfoList
     : public ListInterface<IKyScriptCharacterInfoList, IKyScriptCharacterInfo*> {
  public:
@@ -489,6 +549,7 @@ class IKyScriptCharacterInfoList
   ~IKyScriptCharacterInfoList() = default;
 };
 
+/// Sounds of a scene.
 class IKyScriptEventSoundInfoList
     : public ListInterface<IKyScriptEventSoundInfoList, IKyScriptEventSoundInfo*> {
  public:
@@ -498,6 +559,7 @@ class IKyScriptEventSoundInfoList
   ~IKyScriptEventSoundInfoList() = default;
 };
 
+/// What is said of characters in a clip.
 class IKyScriptCharactersIfInfoList
     : public ListInterface<IKyScriptCharactersIfInfoList, IKyScriptCharactersIfInfo*> {
  public:
@@ -507,6 +569,7 @@ class IKyScriptCharactersIfInfoList
   ~IKyScriptCharactersIfInfoList() = default;
 };
 
+/// Clips of a scene.
 class IKyScriptClipInfoList : public ListInterface<IKyScriptClipInfoList, IKyScriptClipInfo*> {
  public:
   static constexpr const char* interfaceName = "IKyScriptClipInfoList";
@@ -515,6 +578,7 @@ class IKyScriptClipInfoList : public ListInterface<IKyScriptClipInfoList, IKyScr
   ~IKyScriptClipInfoList() = default;
 };
 
+/// Resource descriptions.
 class IZolResSerializeInfoList
     : public ListInterface<IZolResSerializeInfoList, IZolResSerializeInfo*> {
  public:
@@ -524,6 +588,7 @@ class IZolResSerializeInfoList
   ~IZolResSerializeInfoList() = default;
 };
 
+/// Slices of a dimension.
 class IZolSliceItemList : public ListInterface<IZolSliceItemList, IZolSliceItem*> {
  public:
   static constexpr const char* interfaceName = "IZolSliceItemList";
@@ -532,6 +597,7 @@ class IZolSliceItemList : public ListInterface<IZolSliceItemList, IZolSliceItem*
   ~IZolSliceItemList() = default;
 };
 
+/// Dimensions of a report.
 class IZolDemensionsItemList : public ListInterface<IZolDemensionsItemList, IZolDemensionsItem*> {
  public:
   static constexpr const char* interfaceName = "IZolDemensionsItemList";
@@ -540,6 +606,7 @@ class IZolDemensionsItemList : public ListInterface<IZolDemensionsItemList, IZol
   ~IZolDemensionsItemList() = default;
 };
 
+/// Analysis reports.
 class IZolKeyMatrixInfoList : public ListInterface<IZolKeyMatrixInfoList, IZolKeyMatrixInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolKeyMatrixInfoList";
@@ -548,6 +615,7 @@ class IZolKeyMatrixInfoList : public ListInterface<IZolKeyMatrixInfoList, IZolKe
   ~IZolKeyMatrixInfoList() = default;
 };
 
+/// Texts of a clip.
 class IZolTextInfoList : public ListInterface<IZolTextInfoList, IZolTextInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolTextInfoList";
@@ -556,6 +624,7 @@ class IZolTextInfoList : public ListInterface<IZolTextInfoList, IZolTextInfo*> {
   ~IZolTextInfoList() = default;
 };
 
+/// Highlights of a clip.
 class IZolHighlightInfoList : public ListInterface<IZolHighlightInfoList, IZolHighlightInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolHighlightInfoList";
@@ -564,6 +633,7 @@ class IZolHighlightInfoList : public ListInterface<IZolHighlightInfoList, IZolHi
   ~IZolHighlightInfoList() = default;
 };
 
+/// Clips of a cut.
 class IZolSmartCutClipInfoList
     : public ListInterface<IZolSmartCutClipInfoList, IZolSmartCutClipInfo*> {
  public:
@@ -573,6 +643,7 @@ class IZolSmartCutClipInfoList
   ~IZolSmartCutClipInfoList() = default;
 };
 
+/// Music sections.
 class IZolMusicInfoList : public ListInterface<IZolMusicInfoList, IZolMusicInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolMusicInfoList";
@@ -581,6 +652,7 @@ class IZolMusicInfoList : public ListInterface<IZolMusicInfoList, IZolMusicInfo*
   ~IZolMusicInfoList() = default;
 };
 
+/// Rows of a storyboard.
 class IZolStoryboardInfoList : public ListInterface<IZolStoryboardInfoList, IZolStoryboardInfo*> {
  public:
   static constexpr const char* interfaceName = "IZolStoryboardInfoList";
@@ -589,6 +661,7 @@ class IZolStoryboardInfoList : public ListInterface<IZolStoryboardInfoList, IZol
   ~IZolStoryboardInfoList() = default;
 };
 
+/// Search results.
 class IZolSmartCutSearchResultList
     : public ListInterface<IZolSmartCutSearchResultList, IZolSmartCutSearchResult*> {
  public:
@@ -598,6 +671,7 @@ class IZolSmartCutSearchResultList
   ~IZolSmartCutSearchResultList() = default;
 };
 
+/// Items of a search result's dimension.
 class IZolSmartCutSearchDimensionsResultItemList
     : public ListInterface<IZolSmartCutSearchDimensionsResultItemList,
                            IZolSmartCutSearchDimensionsResultItem*> {
@@ -608,6 +682,7 @@ class IZolSmartCutSearchDimensionsResultItemList
   ~IZolSmartCutSearchDimensionsResultItemList() = default;
 };
 
+/// Roles of a search result.
 class IZolRoleSearchItemInfoList
     : public ListInterface<IZolRoleSearchItemInfoList, IZolRoleSearchItemInfo*> {
  public:
@@ -617,6 +692,7 @@ class IZolRoleSearchItemInfoList
   ~IZolRoleSearchItemInfoList() = default;
 };
 
+/// Graphics processors.
 class IGpuInfoList : public ListInterface<IGpuInfoList, IGpuInfo*> {
  public:
   static constexpr const char* interfaceName = "IGpuInfoList";
@@ -629,6 +705,8 @@ class IGpuInfoList : public ListInterface<IGpuInfoList, IGpuInfo*> {
 
 extern "C" {
 
+/// An empty list, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::ZOLIntList* createZOLIntList();
 KYDATASTRUCTURE_API ZOL::ZOLBoolList* createZOLBoolList();
 KYDATASTRUCTURE_API ZOL::ZOLFLOATList* createZOLFLOATList();
@@ -682,6 +760,7 @@ KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchDimensionsResultItemList*
 createIZolSmartCutSearchDimensionsResultItemList();
 KYDATASTRUCTURE_API ZOL::IZolRoleSearchItemInfoList* createIZolRoleSearchItemInfoList();
 KYDATASTRUCTURE_API ZOL::IGpuInfoList* createIGpuInfoList();
+///@}
 
 }  // extern "C"
 

@@ -22,10 +22,14 @@ class IZolMediaData : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolMediaData";
 
+  /// The callers' own numbers; all are 0 in a new object.
+  ///@{
   virtual long long tag() = 0;
   virtual void setTag(long long tag) = 0;
   virtual unsigned int width() = 0;
   virtual unsigned int height() = 0;
+  ///@}
+
   /// Changes the two numbers and nothing else.
   virtual void setDimensions(unsigned int width, unsigned int height) = 0;
   /// In bytes, without the zero behind the last.
@@ -68,11 +72,14 @@ class IKyMaskInfoData : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyMaskInfoData";
 
+  /// The callers' own text and number.
+  ///@{
   virtual const char* maskText() = 0;
   /// Null is refused.
   virtual int setMaskText(const char* text) = 0;
   virtual int maskNumber() = 0;
   virtual int setMaskNumber(int number) = 0;
+  ///@}
 
  protected:
   ~IKyMaskInfoData() = default;
@@ -85,6 +92,8 @@ class IZoEffectInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZoEffectInfo";
 
+  /// The callers' own texts, each of them lent until it is next set.
+  ///@{
   virtual const char* effectText1() = 0;
   virtual int setEffectText1(const char* text) = 0;
   virtual const char* effectText2() = 0;
@@ -93,6 +102,8 @@ class IZoEffectInfo : public IDmBaseObj {
   virtual int setEffectText3(const char* text) = 0;
   virtual const char* effectText4() = 0;
   virtual int setEffectText4(const char* text) = 0;
+  ///@}
+
   /// Takes the four texts. Null is refused.
   virtual int copyFrom(IZoEffectInfo* other) = 0;
 
@@ -108,6 +119,8 @@ class IZolPluginInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolPluginInfo";
 
+  /// The callers' own texts and number; a text is lent until it is next set.
+  ///@{
   virtual const char* pluginText1() = 0;
   virtual int setPluginText1(const char* text) = 0;
   virtual const char* pluginText2() = 0;
@@ -116,6 +129,8 @@ class IZolPluginInfo : public IDmBaseObj {
   virtual int setPluginText3(const char* text) = 0;
   virtual int pluginNumber() = 0;
   virtual int setPluginNumber(int number) = 0;
+  ///@}
+
   /// Assigns the record's effects to `out`. Null is refused; what `out` makes of
   /// the assignment is not looked at.
   virtual int getEffects(IZoEffectInfoList* out) = 0;
@@ -137,6 +152,8 @@ class IZolPanZoomPair : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolPanZoomPair";
 
+  /// The rectangles and numbers of the move.
+  ///@{
   virtual _RectF firstRect() = 0;
   virtual int setFirstRect(_RectF rect) = 0;
   virtual _RectF secondRect() = 0;
@@ -145,6 +162,8 @@ class IZolPanZoomPair : public IDmBaseObj {
   virtual int setFirstNumber(long long number) = 0;
   virtual long long secondNumber() = 0;
   virtual int setSecondNumber(long long number) = 0;
+  ///@}
+
   /// Takes all four fields. Null is refused.
   virtual int copyFrom(IZolPanZoomPair* other) = 0;
 
@@ -158,12 +177,16 @@ class IFaceClusterInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IFaceClusterInfo";
 
+  /// The callers' own numbers and rectangle.
+  ///@{
   virtual long long clusterNumber1() = 0;
   virtual int setClusterNumber1(long long number) = 0;
   virtual long long clusterNumber2() = 0;
   virtual int setClusterNumber2(long long number) = 0;
   virtual _RectF clusterRect() = 0;
   virtual int setClusterRect(_RectF rect) = 0;
+  ///@}
+
   /// Copies the picture into `out`. Refused for null, and while the record has
   /// no picture.
   virtual int getClusterMedia(IZolMediaData* out) = 0;
@@ -182,6 +205,8 @@ class IKyVoiceDataInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyVoiceDataInfo";
 
+  /// The callers' own numbers and texts; a text is lent until it is next set.
+  ///@{
   virtual int voiceNumber1() = 0;
   virtual int setVoiceNumber1(int number) = 0;
   virtual const char* voiceText1() = 0;
@@ -208,6 +233,8 @@ class IKyVoiceDataInfo : public IDmBaseObj {
   virtual int setVoiceNumber5(int number) = 0;
   virtual int voiceNumber6() = 0;
   virtual int setVoiceNumber6(int number) = 0;
+  ///@}
+
   /// Takes all thirteen fields. Null is refused.
   virtual int copyFrom(IKyVoiceDataInfo* other) = 0;
 
@@ -221,6 +248,8 @@ class IKyLoraTextToImageHistoryInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyLoraTextToImageHistoryInfo";
 
+  /// The callers' own numbers and texts; a text is lent until it is next set.
+  ///@{
   virtual int historyNumber1() = 0;
   virtual int setHistoryNumber1(int number) = 0;
   /// On purpose wider than its setter's argument; the sign is kept.
@@ -230,6 +259,8 @@ class IKyLoraTextToImageHistoryInfo : public IDmBaseObj {
   virtual int setHistoryText1(const char* text) = 0;
   virtual const char* historyText2() = 0;
   virtual int setHistoryText2(const char* text) = 0;
+  ///@}
+
   /// Assigns the texts to `out`, as copies. Null is refused.
   virtual int getHistoryTexts(ZOLPCharList* out) = 0;
   /// Clears the texts and then assigns `in` to them, so an `in` that is no list
@@ -251,10 +282,14 @@ class IKyScriptCharactersIfInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyScriptCharactersIfInfo";
 
+  /// The callers' own number and text, which is lent until it is next set.
+  ///@{
   virtual int charactersIfNumber() = 0;
   virtual int setCharactersIfNumber(int number) = 0;
   virtual const char* charactersIfText() = 0;
   virtual int setCharactersIfText(const char* text) = 0;
+  ///@}
+
   /// Takes both fields.
   virtual int copyFrom(IKyScriptCharactersIfInfo* other) = 0;
 
@@ -267,10 +302,14 @@ class IKyScriptClipInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyScriptClipInfo";
 
+  /// What belongs to the clip; the text is lent until it is next set.
+  ///@{
   virtual int getCharactersIfList(IKyScriptCharactersIfInfoList* out) = 0;
   virtual int setCharactersIfList(IKyScriptCharactersIfInfoList* in) = 0;
   virtual const char* clipText() = 0;
   virtual int setClipText(const char* text) = 0;
+  ///@}
+
   /// Takes both fields.
   virtual int copyFrom(IKyScriptClipInfo* other) = 0;
 
@@ -283,6 +322,8 @@ class IKyScriptEventSoundInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyScriptEventSoundInfo";
 
+  /// The callers' own numbers and texts; a text is lent until it is next set.
+  ///@{
   virtual int eventNumber1() = 0;
   virtual int setEventNumber1(int number) = 0;
   virtual int eventNumber2() = 0;
@@ -291,6 +332,8 @@ class IKyScriptEventSoundInfo : public IDmBaseObj {
   virtual int setEventText1(const char* text) = 0;
   virtual const char* eventText2() = 0;
   virtual int setEventText2(const char* text) = 0;
+  ///@}
+
   /// Takes all four fields.
   virtual int copyFrom(IKyScriptEventSoundInfo* other) = 0;
 
@@ -303,6 +346,8 @@ class IKyScriptCharacterInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyScriptCharacterInfo";
 
+  /// The callers' own numbers and texts; a text is lent until it is next set.
+  ///@{
   virtual int characterNumber1() = 0;
   virtual int setCharacterNumber1(int number) = 0;
   virtual const char* characterText1() = 0;
@@ -316,6 +361,7 @@ class IKyScriptCharacterInfo : public IDmBaseObj {
   // On purpose behind copyFrom, the setter first and without a result.
   virtual void setCharacterNumber2(int number) = 0;
   virtual int characterNumber2() = 0;
+  ///@}
 
  protected:
   ~IKyScriptCharacterInfo() = default;
@@ -326,6 +372,8 @@ class IKyScriptSceneInfo : public IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IKyScriptSceneInfo";
 
+  /// What belongs to the scene: numbers, texts, each lent until it is next set, and lists.
+  ///@{
   virtual int sceneNumber1() = 0;
   virtual int setSceneNumber1(int number) = 0;
   /// On purpose wider than its setter's argument; the sign is kept.
@@ -380,6 +428,8 @@ class IKyScriptSceneInfo : public IDmBaseObj {
   // On purpose behind copyFrom, the setter first and without a result.
   virtual void setSceneNumber8(int number) = 0;
   virtual int sceneNumber8() = 0;
+  ///@}
+
   /// Not a general clear: empties sceneText2, 5, 7 and 9, the four text lists
   /// and the sounds, sets sceneNumber7 to 0 and, on purpose, sceneNumber6 to 1.
   /// Everything else stays, clips and history among it.
@@ -393,7 +443,10 @@ class IKyScriptSceneInfo : public IDmBaseObj {
 
 extern "C" {
 
+/// A new record, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::IZolMediaData* createEmptyMediaData();
+///@}
 
 /// An object filled with a copy of `size` bytes of `data`, or with zeros when
 /// `data` is null. On purpose never null: with a width, height or size of 0 (or
@@ -410,6 +463,8 @@ KYDATASTRUCTURE_API ZOL::IZolBGRAData* createBGRAData(unsigned int width, unsign
                                                       const unsigned char* data, int size,
                                                       long long tag);
 
+/// A new record, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::IKyMaskInfoData* createMaskInfoData();
 KYDATASTRUCTURE_API ZOL::IZoEffectInfo* createEffectInfo();
 KYDATASTRUCTURE_API ZOL::IZolPluginInfo* createPluginInfo();
@@ -422,6 +477,7 @@ KYDATASTRUCTURE_API ZOL::IKyScriptClipInfo* createScriptClipInfo();
 KYDATASTRUCTURE_API ZOL::IKyScriptEventSoundInfo* createScriptEventSoundInfo();
 KYDATASTRUCTURE_API ZOL::IKyScriptCharactersIfInfo* createScriptCharactersIfInfo();
 KYDATASTRUCTURE_API ZOL::IKyScriptCharacterInfo* createScriptCharacterInfo();
+///@}
 
 }  // extern "C"
 

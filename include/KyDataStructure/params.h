@@ -36,6 +36,7 @@ class IZolParamInternal {
 
   /// Null is refused.
   virtual int setParamName(const char* name) = 0;
+  /// Lent until it is next set; the empty text in a new store.
   virtual const char* paramName() = 0;
   /// On purpose always refused: it keeps its place and has nothing behind it.
   virtual int internalOperation3() = 0;
@@ -144,6 +145,8 @@ class IImageStylizesData : public virtual IRelinkEffectData {
 
 extern "C" {
 
+/// An object that holds nothing, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::IZolParam* createZolParam();
 KYDATASTRUCTURE_API ZOL::IRelinkEffectData* createRelinkEffectData();
 KYDATASTRUCTURE_API ZOL::IResourceMediaData* createResourceMediaData();
@@ -151,6 +154,7 @@ KYDATASTRUCTURE_API ZOL::IAiPortraitV2Data* createIAiPortraitV2Data();
 KYDATASTRUCTURE_API ZOL::IRemoveBackgroundData* createRemoveBackgroundData();
 KYDATASTRUCTURE_API ZOL::IAITemplateGenerateData* createAITemplateGenerateData();
 KYDATASTRUCTURE_API ZOL::IImageStylizesData* createImageStylizesData();
+///@}
 
 }  // extern "C"
 

@@ -14,6 +14,8 @@ namespace ZOL {
 /// The keys of properties. Each text is its own identifier, and keys are compared
 /// by their text, so an equal text from elsewhere works as well.
 namespace resSerializeInfoPropKey {
+/// A key. Kind and member of its property stand with the resource description's format.
+///@{
 extern KYDATASTRUCTURE_API const char* const rsResType;
 extern KYDATASTRUCTURE_API const char* const rsResSubType;
 extern KYDATASTRUCTURE_API const char* const rsResSourceType;
@@ -40,19 +42,25 @@ extern KYDATASTRUCTURE_API const char* const rsResMultiOriginFile;
 extern KYDATASTRUCTURE_API const char* const rsResIsMultiFunctional;
 extern KYDATASTRUCTURE_API const char* const rsResOriginSlug;
 extern KYDATASTRUCTURE_API const char* const rsResOriginId;
+///@}
 }  // namespace resSerializeInfoPropKey
 
 /// The keys of user strings. Each text is its own identifier.
 namespace resSerializeInfoUserStringKey {
+/// A key. Its member stands with the resource description's format.
+///@{
 extern KYDATASTRUCTURE_API const char* const rsiusAnimatedSttStateType;
 extern KYDATASTRUCTURE_API const char* const rsiusOpenFxPluginName;
 extern KYDATASTRUCTURE_API const char* const rsiusVST3PluginName;
 extern KYDATASTRUCTURE_API const char* const rsiusCustomRsMd5;
+///@}
 }  // namespace resSerializeInfoUserStringKey
 
 /// Names of tags that programs attach to files. The library reads none of them.
 /// `zol_tag_version` is the value that goes with the key `zol_tag_version_key`.
 namespace zolFileTagKey {
+/// A name, in the programs' own sense.
+///@{
 extern KYDATASTRUCTURE_API const char* const ai_task_id;
 extern KYDATASTRUCTURE_API const char* const ai_label;
 extern KYDATASTRUCTURE_API const char* const ai_dynamic_setting;
@@ -63,6 +71,7 @@ extern KYDATASTRUCTURE_API const char* const file_group_time;
 extern KYDATASTRUCTURE_API const char* const zol_tag_version_key;
 extern KYDATASTRUCTURE_API const char* const zol_tag_version;
 extern KYDATASTRUCTURE_API const char* const parent_file_id;
+///@}
 }  // namespace zolFileTagKey
 
 /// The description of one resource: properties, user strings and related
@@ -146,6 +155,7 @@ class IZolResSerializeInfoInternal {
   virtual int setStringValue(const char* key, const char* value) = 0;
   /// A word of the caller's, which the library only stores.
   virtual std::uintptr_t hostData() = 0;
+  /// Always kSuccess.
   virtual int setHostData(std::uintptr_t value) = 0;
   /// Appends a private copy of `info`. Refused for null, for a description that
   /// is not valid or not this library's, and for a user's own resource
@@ -159,8 +169,11 @@ class IZolResSerializeInfoInternal {
   /// Adds a copy of each entry to `out`, which is not cleared. Null is refused;
   /// a copy that fails stops with kRefused, and what was added stays.
   virtual int relatedResList(IZolResSerializeInfoList* out) = 0;
+  /// As in IZolResSerializeInfo.
+  ///@{
   virtual const char* userString(const char* key) = 0;
   virtual int setUserString(const char* key, const char* value) = 0;
+  ///@}
 
  protected:
   ~IZolResSerializeInfoInternal() = default;

@@ -19,10 +19,13 @@ class IZolRoleSearchItemInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolRoleSearchItemInfo";
 
+  /// A text is copied and lent, an image kept and lent.
+  ///@{
   virtual const char* roleText() = 0;
   virtual int setRoleText(const char* text) = 0;
   virtual IZolMediaData* roleImage() = 0;
   virtual int setRoleImage(IZolMediaData* image) = 0;
+  ///@}
 
  protected:
   ~IZolRoleSearchItemInfo() = default;
@@ -33,10 +36,14 @@ class IZolSmartCutSearchDimensionsResultItem : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutSearchDimensionsResultItem";
 
+  /// A text is copied and lent, an image kept and lent.
+  ///@{
   virtual const char* itemText() = 0;
   virtual int setItemText(const char* text) = 0;
   virtual IZolMediaData* itemImage() = 0;
   virtual int setItemImage(IZolMediaData* image) = 0;
+  ///@}
+
   /// The item's own list, lent and never null. It has no setter: callers fill it.
   virtual ZOLRangeList* rangeList() = 0;
 
@@ -49,8 +56,12 @@ class IZolSmartCutSearchDimensionsResult : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolSmartCutSearchDimensionsResult";
 
+  /// The callers' own number; the setter always answers kSuccess.
+  ///@{
   virtual int dimensionValue() = 0;
   virtual int setDimensionValue(int value) = 0;
+  ///@}
+
   /// The result's own list, lent and never null. It has no setter.
   virtual IZolSmartCutSearchDimensionsResultItemList* resultItemList() = 0;
 
@@ -65,6 +76,8 @@ class IZolSmartCutSearchResult : public virtual IDmBaseObj {
 
   /// Null until set.
   virtual IZolRoleSearchItemInfoList* roleInfoList() = 0;
+  /// Texts are copied and lent, the list is kept.
+  ///@{
   virtual int setRoleInfoList(IZolRoleSearchItemInfoList* list) = 0;
   virtual const char* firstText() = 0;
   virtual int setFirstText(const char* text) = 0;
@@ -72,6 +85,8 @@ class IZolSmartCutSearchResult : public virtual IDmBaseObj {
   virtual int setSecondText(const char* text) = 0;
   virtual const char* thirdText() = 0;
   virtual int setThirdText(const char* text) = 0;
+  ///@}
+
   /// Clears `keys` and adds the keys in ascending order.
   virtual int getDimensionKeys(ZOLIntList* keys) = 0;
   /// Any key will do, negative ones too.
@@ -90,12 +105,15 @@ class IZolStageReportData : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolStageReportData";
 
+  /// As the report was made; a text is lent as long as it lives.
+  ///@{
   virtual int stageType() = 0;
   virtual const char* stageName() = 0;
   virtual int stageStatus() = 0;
   virtual int stageCode() = 0;
   virtual const char* stageMessage() = 0;
   virtual const char* stageDetail() = 0;
+  ///@}
 
  protected:
   ~IZolStageReportData() = default;
@@ -105,11 +123,14 @@ class IZolStageReportData : public virtual IDmBaseObj {
 
 extern "C" {
 
+/// An object with nothing set, owned.
+///@{
 KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchResult* createSmartCutSearchResult();
 KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchDimensionsResult* createSmartCutSearchDimensionsResult();
 KYDATASTRUCTURE_API ZOL::IZolSmartCutSearchDimensionsResultItem*
 createSmartCutSearchDimensionsResultItem();
 KYDATASTRUCTURE_API ZOL::IZolRoleSearchItemInfo* createRoleSearchItemInfo();
+///@}
 
 /// The texts are copied; null is taken as the empty text.
 KYDATASTRUCTURE_API ZOL::IZolStageReportData* createStageReportData(int stageType,
