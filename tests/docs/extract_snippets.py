@@ -54,4 +54,5 @@ def main():
   output.write_text(program(), encoding='ascii')
 
 
-main()
+if __name__ == '__main__':
+  main()

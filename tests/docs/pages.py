@@ -36,7 +36,11 @@ class Fence:
 
   @property
   def is_fragment(self):
-    return self.language == 'cpp' and not self.is_program
+    return self.language == 'cpp' and not self.is_program and not self.is_step
+
+  @property
+  def is_step(self):
+    return self.mark.startswith('step: ')
 
 
 @dataclass
