@@ -19,6 +19,16 @@ from pages import ROOT, read_page
 
 SKIPPED = '...'  # a line that stands for any lines
 
+# What a command may name, and the files one of which then has it; a path is there itself.
+NAMED = (
+    ('file', r'(?:^|[ $])((?:scripts|docs|tests)/[\w./-]+)', []),
+    ('preset', r'--preset (\w+)', ['CMakePresets.json']),
+    ('target', r'--target (\w+)', ['tests/*/CMakeLists.txt', 'tools/*/CMakeLists.txt']),
+    ('target', r'build/dev/\S+/(\w+)', ['tests/*/CMakeLists.txt', 'tools/*/CMakeLists.txt']),
+    ('test', r'-R (\w+)', ['tests/*/CMakeLists.txt', 'tests/**/*.h', 'tests/**/*_test.cpp']),
+    ('test', r"--gtest_filter='\*(\w+)\*'", ['tests/**/*_test.cpp']),
+)
+
 
 def matches(shown, came):
   """Whether the lines that came are those shown."""
@@ -58,7 +68,7 @@ class Check:
           next(fences)
         self.check_cpp(fence, following)
       elif fence.mark.startswith('not run: '):
-        pass
+        self.check_names(fence)
       elif fence.mark == 'picture':
         if fence.language:
           self.fault(fence, 'a picture has no language')
@@ -110,6 +120,15 @@ class Check:
     shown = [line for line in fence.text.splitlines() if not line.startswith('$ ')]
     if not matches([SKIPPED, *shown, SKIPPED], came):
       self.fault(fence, f'is not in {name}')
+
+  def check_names(self, fence):
+    """What is not run at least names what is there."""
+    for kind, pattern, files in NAMED:
+      for name in re.findall(pattern, fence.text):
+        found = any(re.search(rf'\b{name}', place.read_text())
+                    for several in files for place in ROOT.glob(several))
+        if not found and (files or not (ROOT / name).exists()):
+          self.fault(fence, f'there is no {kind} {name}')
 
   def check_console(self, fence):
     shown = fence.text.splitlines()
