@@ -70,8 +70,8 @@ class IZolMusicInfo : public virtual IDmBaseObj {
  public:
   static constexpr const char* interfaceName = "IZolMusicInfo";
 
-  /// The music type of a reply is 0 for "t2m" and 1 for any other; start and end lie on
-  /// the finished timeline. The note is the callers' own: no reader sets it.
+  /// The music type of a reply is 0 for "t2m" or no text, and 1 for any other; start and
+  /// end lie on the finished timeline. The note is the callers' own: no reader sets it.
   ///@{
   virtual int musicType() = 0;
   virtual long long start() = 0;
