@@ -5,6 +5,7 @@
 #   consume.sh package PREFIX        installed, through find_package
 #   consume.sh refused PREFIX        the same, for versions that are not to be found
 #   consume.sh pkg-config PREFIX     installed, through pkg-config
+#   consume.sh subdirectory SOURCE   the sources, through add_subdirectory
 #
 # What is built goes into the folder WORK, or into one that is removed at the end. CXX and
 # CXXFLAGS are taken from the environment.
@@ -80,10 +81,33 @@ through_pkg_config() {
   run "$WORK/consumer" "$library"
 }
 
+through_subdirectory() {
+  local unwanted commands
+  configure subdirectory "-DLIBRARY_SOURCE=$library"
+
+  # The consumer's flags reach the library, and the library's warnings nobody.
+  commands=$(grep '"command".*/src/' "$WORK/build/compile_commands.json")
+  grep --quiet --invert-match FLAG_OF_THE_CONSUMER <<<"$commands" &&
+    fail "a source of the library lacks the flags of the consumer"
+  for unwanted in -Werror -Wall -Wconversion; do
+    grep --quiet -e "$unwanted" "$WORK/build/compile_commands.json" &&
+      fail "$unwanted comes with the library"
+  done
+
+  quietly cmake --build "$WORK/build" --parallel "$(nproc)"
+  run "$WORK/build/consumer" "$WORK/build"
+
+  # Nothing but the library was built, and none of it is installed with the consumer.
+  [[ -z $(find "$WORK/build" -name '*_test' -o -name kydata) ]] || fail "tests or tools were built"
+  quietly cmake --install "$WORK/build" --prefix "$WORK/installed"
+  [[ -z $(find "$WORK/installed" -type f 2>/dev/null) ]] || fail "the library was installed, too"
+}
+
 case "$way" in
   package) through_package ;;
   refused) refused ;;
   pkg-config) through_pkg_config ;;
+  subdirectory) through_subdirectory ;;
   *) fail "no such way: $way" ;;
 esac
 echo "as it should be: $way"
