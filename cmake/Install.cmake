@@ -35,6 +35,12 @@ if(TARGET kydata)
   set_target_properties(kydata PROPERTIES INSTALL_RPATH "$ORIGIN/${library_dir}")
   install(TARGETS kydata RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT Tools)
 endif()
+if(TARGET kydata_manual)
+  install(
+    FILES $<TARGET_PROPERTY:kydata_manual,PAGE>
+    DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
+    COMPONENT Tools)
+endif()
 
 # pkg-config finds the prefix from where its file lies.
 set(pkgconfig_dir ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig)
