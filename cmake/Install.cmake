@@ -40,6 +40,11 @@ if(TARGET kydata_manual)
     FILES $<TARGET_PROPERTY:kydata_manual,PAGE>
     DESTINATION ${CMAKE_INSTALL_MANDIR}/man1
     COMPONENT Tools)
+  install(
+    FILES ${PROJECT_SOURCE_DIR}/tools/kydata/completion/kydata.bash
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+    RENAME kydata
+    COMPONENT Tools)
 endif()
 
 # pkg-config finds the prefix from where its file lies.
