@@ -60,3 +60,14 @@ install(
   FILES ${PROJECT_BINARY_DIR}/KyDataStructure.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT Development)
+
+# gdb finds its printers by the full path of the library, which is known when it is
+# installed.
+if(UNIX)
+  install(
+    FILES ${PROJECT_SOURCE_DIR}/debugger/KyDataStructure-gdb.py
+    DESTINATION
+      "${CMAKE_INSTALL_DATADIR}/gdb/auto-load\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_LIBDIR}"
+    RENAME $<TARGET_FILE_NAME:KyDataStructure>-gdb.py
+    COMPONENT Development)
+endif()
