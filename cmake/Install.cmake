@@ -61,6 +61,12 @@ install(
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT Development)
 
+# What debuggers show objects by.
+install(
+  FILES ${PROJECT_SOURCE_DIR}/debugger/KyDataStructure.natvis
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/KyDataStructure
+  COMPONENT Development)
+
 # gdb finds its printers by the full path of the library, which is known when it is
 # installed.
 if(UNIX)

@@ -41,7 +41,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${PROJECT_VERSION})")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION
     "data model of a video editor's business layer - development files
-The headers of KyDataStructure, and what CMake and pkg-config need to find it.")
+The headers of KyDataStructure, what CMake and pkg-config need to find it, and
+what debuggers show its objects by.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME kydata)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION video)
