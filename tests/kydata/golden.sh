@@ -17,13 +17,13 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 ln -s "$program" "$work/kydata"
 
-# The locale decides about messages of the system, NO_COLOR about colours.
+# The locale decides about messages of the system, NO_COLOR and TERM about colours.
 run() {
   local command=$1 status=0
   (
     cd "$here/../.."
     unset NO_COLOR
-    LC_ALL=C PATH="$work:$PATH" bash -o pipefail -c "$command"
+    LC_ALL=C TERM=xterm PATH="$work:$PATH" bash -o pipefail -c "$command"
   ) >"$work/out" 2>"$work/err" </dev/null || status=$?
   printf '$ %s\n' "$command"
   cat "$work/out"

@@ -1,12 +1,16 @@
 #include "input.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <iostream>
 #include <memory>
+#include <system_error>
 
+#include "status_line.h"
 #include "utf8.h"
 
 namespace kydata {
@@ -24,14 +28,51 @@ File open(const std::string& file) {
   return opened;
 }
 
-std::string readAll(std::FILE* file) {
+constexpr std::size_t kMegabyte = 1000 * 1000;
+constexpr std::size_t kWorthAWord = 50 * kMegabyte;
+
+std::string megabytes(std::size_t bytes) { return std::to_string(bytes / kMegabyte) + " MB"; }
+
+/// The size of a file as far as it can be known ahead; 0 where it cannot.
+std::size_t expectedSize(const std::string& file) {
+  std::error_code unknown;
+  const auto size = std::filesystem::file_size(file, unknown);
+  return unknown ? 0 : static_cast<std::size_t>(size);
+}
+
+/// Tells how far the reading of a big input has got.
+class ReadingStatus {
+ public:
+  explicit ReadingStatus(const std::string& file)
+      : name_(inputName(file)), expected_(expectedSize(file)) {}
+
+  void at(std::size_t bytes) {
+    if (std::max(bytes, expected_) < kWorthAWord || bytes < next_) return;
+    next_ = bytes + kMegabyte;
+    showStatus(name_ + ": " + megabytes(bytes) +
+               (expected_ > bytes ? " of " + megabytes(expected_) : "") + " loaded");
+  }
+
+  void finish(std::size_t bytes) {
+    if (bytes >= kWorthAWord) showStatus(name_ + ": " + megabytes(bytes) + ", being read ...");
+  }
+
+ private:
+  std::string name_;
+  std::size_t expected_;
+  std::size_t next_ = 0;
+};
+
+std::string readAll(std::FILE* file, ReadingStatus status) {
   std::string text;
   std::array<char, 65536> block;
   std::size_t count = 0;
   while ((count = std::fread(block.data(), 1, block.size(), file)) > 0) {
     text.append(block.data(), count);
+    status.at(text.size());
   }
   if (std::ferror(file)) throw Fault(std::string("cannot be read: ") + std::strerror(errno));
+  status.finish(text.size());
   return text;
 }
 
@@ -40,7 +81,7 @@ std::string readAll(std::FILE* file) {
 std::string inputName(const std::string& file) { return file == "-" ? "standard input" : file; }
 
 Input readInput(const std::string& file) {
-  Input input{inputName(file), readAll(open(file).get())};
+  Input input{inputName(file), readAll(open(file).get(), ReadingStatus(file))};
   if (input.text.empty()) throw Fault("is empty");
   return input;
 }
@@ -71,6 +112,7 @@ bool reportingFaults(const std::string& name, const std::function<void()>& work)
     work();
     return true;
   } catch (const Fault& fault) {
+    clearStatus();
     std::cerr << "kydata: " << printable(name) << ": " << fault.what() << '\n';
     return false;
   }

@@ -1,6 +1,8 @@
 // kydata: reads the texts that the library reads, and shows what they hold.
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <iostream>
 #include <string>
@@ -9,6 +11,8 @@
 #include "commands.h"
 #include "info_types.h"
 #include "input.h"
+#include "status_line.h"
+#include "terminal.h"
 
 namespace {
 
@@ -57,6 +61,7 @@ class CommandLine {
                "  kydata resource examples/data/pack_title.json\n\n"
                "kydata COMMAND --help tells more of one command.\n"));
     app_.add_option("FILE", file_, "A text to recognise; - is standard input")->type_name("");
+    addColour(&app_);
     addResource();
     addCut();
     addReport();
@@ -72,6 +77,8 @@ class CommandLine {
     }
     if (!hasCommand && file_.empty()) throw CLI::RequiredError("a command or a file");
   }
+
+  kydata::Colour colour() const { return colour_; }
 
   bool run(kydata::Output& out) const {
     if (resourceCommand_->parsed()) return runResource(resource_, out);
@@ -134,6 +141,7 @@ class CommandLine {
         ->add_flag("--unique", resource_.unique,
                    "Take all texts as one list, and keep the first of each unique key")
         ->excludes(complete);
+    addColour(command);
     command->footer(footer(
         "Control characters are shown as escapes, and a backslash as two.\n\n" + listOfInfoTypes() +
         "\nExamples:\n"
@@ -153,6 +161,7 @@ class CommandLine {
         ->type_name("N")
         ->check(CLI::Validator(isCount, "", "count"));
     addSvg(command, cut_.svg, "Draw a script (the first, unless --script says) as a timeline");
+    addColour(command);
     command->footer(
         footer("A reply does not tell the unit of its times: they are shown as milliseconds.\n"
                "Texts and highlights stand at times of their source. On the finished timeline\n"
@@ -170,6 +179,7 @@ class CommandLine {
         ->required()
         ->type_name("");
     addSvg(command, report_.svg, "Draw the spans of all dimensions over time");
+    addColour(command);
     command->footer(
         footer("Score samples are not shown: the library keeps them and does not give them out.\n"
                "\nExamples:\n"
@@ -189,10 +199,12 @@ class CommandLine {
     command->add_option("--script", storyboard_.script, "Which script of a reply, counted from 1")
         ->type_name("N")
         ->check(CLI::Validator(isCount, "", "count"));
+    addColour(command);
     command->footer(
         footer("Of a storyboard text, rows that lack a member are left out.\n"
-               "\nExample:\n"
-               "  kydata storyboard reply.json --script 2 > storyboard.json\n"));
+               "\nExamples:\n"
+               "  kydata storyboard reply.json > storyboard.json\n"
+               "  kydata storyboard reply.json --script 2 | kydata storyboard -\n"));
   }
 
   void addDataMap() {
@@ -202,6 +214,7 @@ class CommandLine {
         ->required()
         ->type_name("");
     command->add_flag("--normal", dataMap_.writeNormal, "Write the text as the library writes it");
+    addColour(command);
     command->footer(footer(
         "Alone among the texts, this one is strict JSON: there are no comments and no\n"
         "trailing commas in it, and nothing stands behind it. Names are taken as numbers, 0\n"
@@ -214,6 +227,35 @@ class CommandLine {
   static void addSvg(CLI::App* command, std::string& file, const std::string& text) {
     command->add_option("--svg", file, text + ", and write that picture; - is standard output")
         ->type_name("OUT");
+  }
+
+  void addColour(CLI::App* command) {
+    command
+        ->add_option_function<std::string>(
+            "--color", [this](const std::string& word) { colour_ = colourOf(word)->colour; },
+            "When to use colour: auto (on a terminal, unless NO_COLOR is set), always or never")
+        ->type_name("WHEN")
+        ->check(CLI::Validator(isColour, "", "colour"));
+  }
+
+  struct ColourWord {
+    const char* word;
+    kydata::Colour colour;
+  };
+
+  static const ColourWord* colourOf(const std::string& word) {
+    static constexpr std::array<ColourWord, 3> kWords = {{
+        {"auto", kydata::Colour::automatic},
+        {"always", kydata::Colour::always},
+        {"never", kydata::Colour::never},
+    }};
+    const auto* const found = std::find_if(
+        kWords.begin(), kWords.end(), [&](const ColourWord& known) { return word == known.word; });
+    return found == kWords.end() ? nullptr : found;
+  }
+
+  static std::string isColour(const std::string& word) {
+    return colourOf(word) ? "" : "WHEN is auto, always or never, and not \"" + word + "\"";
   }
 
   static std::string isCount(const std::string& text) {
@@ -237,6 +279,7 @@ class CommandLine {
   CLI::App* storyboardCommand_ = nullptr;
   CLI::App* dataMapCommand_ = nullptr;
   std::string file_;  ///< given without a command
+  kydata::Colour colour_ = kydata::Colour::automatic;
   kydata::ResourceOptions resource_;
   kydata::CutOptions cut_;
   kydata::ReportOptions report_;
@@ -251,18 +294,21 @@ int runProgram(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return commandLine.explain(error);
   }
-  kydata::Output out;
+  kydata::Output out(commandLine.colour());
   const bool allGood = commandLine.run(out);
   const bool allWritten = kydata::reportingFaults("standard output", [&] { out.finish(); });
+  kydata::clearStatus();
   return allGood && allWritten ? 0 : kSomethingFailed;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  kydata::prepareStreams();
   try {
     return runProgram(argc, argv);
   } catch (const std::exception& error) {
+    kydata::clearStatus();
     std::cerr << "kydata: " << error.what() << '\n';
     return kSomethingFailed;
   }

@@ -1,13 +1,13 @@
 #include "output.h"
 
-#include <unistd.h>
-
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
 #include "input.h"
+#include "status_line.h"
+#include "terminal.h"
 
 namespace kydata {
 
@@ -20,15 +20,30 @@ bool isSet(const char* name) {
 
 }  // namespace
 
-Output::Output() : hasColour_(isatty(STDOUT_FILENO) != 0 && !isSet("NO_COLOR")) {}
+Output::Output(Colour colour)
+    : hasColour_(colour == Colour::always ||
+                 (colour == Colour::automatic && isOutputWatched() && !isSet("NO_COLOR"))) {}
+
+std::ostream& Output::text() {
+  clearStatus();
+  noteFault();
+  return std::cout;
+}
 
 std::string Output::coloured(const char* code, const std::string& text) const {
   if (!hasColour_ || text.empty()) return text;
   return "\x1b[" + std::string(code) + "m" + text + "\x1b[0m";
 }
 
+void Output::noteFault() {
+  if (!std::cout && fault_ == 0) fault_ = errno;
+}
+
 void Output::finish() {
-  if (!text().flush()) throw Fault("cannot be written");
+  text().flush();
+  noteFault();
+  if (fault_ != 0) throw Fault(std::string("cannot be written: ") + std::strerror(fault_));
+  if (!std::cout) throw Fault("cannot be written");
 }
 
 void writeFile(Output& out, const std::string& file, const std::string& text) {

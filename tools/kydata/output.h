@@ -7,13 +7,18 @@
 
 namespace kydata {
 
-/// Standard output, and the little colour that is used on it: only where it is a
-/// terminal, and never where the environment holds NO_COLOR.
+enum class Colour {
+  automatic,  ///< on a terminal that is not dumb, unless the environment holds NO_COLOR
+  always,
+  never,
+};
+
+/// Standard output, and the little colour that is used on it.
 class Output {
  public:
-  Output();
+  explicit Output(Colour colour);
 
-  std::ostream& text() { return std::cout; }
+  std::ostream& text();
   std::string heading(const std::string& text) const { return coloured("1", text); }
   std::string faint(const std::string& text) const { return coloured("2", text); }
 
@@ -23,8 +28,10 @@ class Output {
 
  private:
   std::string coloured(const char* code, const std::string& text) const;
+  void noteFault();
 
   bool hasColour_;
+  int fault_ = 0;  ///< the system's number of what went wrong first
 };
 
 /// Writes a whole file; "-" is standard output.
