@@ -1,6 +1,7 @@
 #ifndef KYDATA_COMMANDS_H_
 #define KYDATA_COMMANDS_H_
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <vector>
@@ -46,6 +47,20 @@ struct DataMapOptions {
   bool writeNormal = false;
 };
 bool runDataMap(const DataMapOptions& options, Output& out);
+
+struct CheckOptions {
+  std::vector<std::string> files;
+  std::string form;                 ///< its name; empty to tell it from the text
+  std::optional<int> completeType;  ///< the complete form of that info type instead
+  std::size_t limit = 10;           ///< of findings that are alike; 0 for none
+  bool writeJson = false;
+  bool writeSchema = false;
+  bool listCodes = false;
+};
+/// True when nothing worse than a note was found.
+bool runCheck(const CheckOptions& options, Output& out);
+/// True for the name of a form that CheckOptions may hold.
+bool isForm(const std::string& name);
 
 /// Finds out which of the library's text forms a file holds, and shows it as the
 /// command for that form does.

@@ -67,6 +67,7 @@ class CommandLine {
     addReport();
     addStoryboard();
     addDataMap();
+    addCheck();
   }
 
   void parse(int argc, char** argv) {
@@ -76,6 +77,7 @@ class CommandLine {
       throw CLI::ExtrasError({file_ + " in front of the command"});
     }
     if (!hasCommand && file_.empty()) throw CLI::RequiredError("a command or a file");
+    if (checkCommand_->parsed()) askCheckFor();
   }
 
   kydata::Colour colour() const { return colour_; }
@@ -86,6 +88,7 @@ class CommandLine {
     if (reportCommand_->parsed()) return runReport(report_, out);
     if (storyboardCommand_->parsed()) return runStoryboard(storyboard_, out);
     if (dataMapCommand_->parsed()) return runDataMap(dataMap_, out);
+    if (checkCommand_->parsed()) return runCheck(check_, out);
     return runRecognise(file_, out);
   }
 
@@ -105,6 +108,8 @@ class CommandLine {
   static constexpr const char* kReportUsage = "report [--svg OUT] FILE";
   static constexpr const char* kStoryboardUsage = "storyboard [--script N] FILE";
   static constexpr const char* kDataMapUsage = "datamap [--normal] FILE...";
+  static constexpr const char* kCheckUsage =
+      "check [--form NAME | --complete INFOTYPE] [--limit N] [--json] FILE...";
 
   std::string whatIsWrong(const CLI::ParseError& error) const {
     if (!app_.get_subcommands().empty()) return error.what();
@@ -120,7 +125,8 @@ class CommandLine {
     if (reportCommand_->parsed()) return kReportUsage;
     if (storyboardCommand_->parsed()) return kStoryboardUsage;
     if (dataMapCommand_->parsed()) return kDataMapUsage;
-    return "[resource|cut|report|storyboard|datamap] [OPTIONS] FILE...";
+    if (checkCommand_->parsed()) return kCheckUsage;
+    return "[resource|cut|report|storyboard|datamap|check] [OPTIONS] FILE...";
   }
 
   void addResource() {
@@ -224,6 +230,58 @@ class CommandLine {
         "  kydata datamap --normal map.json | kydata datamap -\n"));
   }
 
+  void addCheck() {
+    CLI::App* command =
+        app_.add_subcommand("check", "Tells what the library passes over in a text, and why");
+    checkCommand_ = command;
+    command->add_option("FILE", check_.files, "Texts to check; - is standard input")->type_name("");
+    auto* form = command->add_option("--form", check_.form, "Take the texts as this form")
+                     ->type_name("NAME")
+                     ->check(CLI::Validator(isFormName, "", "form"));
+    command
+        ->add_option("--complete", check_.completeType,
+                     "Take the texts as the complete form of this info type")
+        ->type_name("INFOTYPE")
+        ->check(CLI::Validator(isInfoType, "", "info type"))
+        ->excludes(form);
+    command
+        ->add_option("--limit", check_.limit,
+                     "Show at most N findings that are alike, 10 unless told; 0 shows all")
+        ->type_name("N")
+        ->check(CLI::Validator(isNumber, "", "number"));
+    command->add_flag("--json", check_.writeJson, "Write the findings as JSON");
+    command->add_flag("--schema", check_.writeSchema,
+                      "Write the form's JSON Schema, and check nothing");
+    command->add_flag("--codes", check_.listCodes, "List what may be found, and check nothing");
+    addColour(command);
+    command->footer(
+        "Forms: cut, datamap, storyboard, resource, report, highlight. Without --form they\n"
+        "are told from the text, as kydata FILE does; a record only --complete can tell.\n\n" +
+        listOfInfoTypes() +
+        "\nA finding stands behind FILE:LINE:COLUMN:. An error is why the library refuses the\n"
+        "text, a warning is of what is lost or read as something else, a note of what is\n"
+        "worth to know and needs no other text. docs/findings.md explains each code.\n"
+        "\nExamples:\n"
+        "  kydata check reply.json                     whatever form it is\n"
+        "  kydata check --complete 106 sticker.json    a provider's record\n"
+        "  kydata check --json *.json                  for another program\n"
+        "  kydata check --form cut --schema            the JSON Schema of cut replies\n"
+        "\nExit status:\n"
+        "  0  nothing was found, or notes alone\n"
+        "  1  a warning or an error was found, or a file could not be read\n"
+        "  2  the command line was wrong");
+  }
+
+  void askCheckFor() {
+    const bool hasForm = !check_.form.empty() || check_.completeType;
+    const bool asksForFiles = !check_.writeSchema && !check_.listCodes;
+    if (check_.writeSchema && !hasForm) throw CLI::RequiredError("--form or --complete");
+    if (asksForFiles && check_.files.empty()) throw CLI::RequiredError("FILE");
+    if (!asksForFiles && !check_.files.empty()) {
+      throw CLI::ExtrasError({check_.files.front() + ", as nothing is checked"});
+    }
+  }
+
   static void addSvg(CLI::App* command, std::string& file, const std::string& text) {
     command->add_option("--svg", file, text + ", and write that picture; - is standard output")
         ->type_name("OUT");
@@ -265,6 +323,15 @@ class CommandLine {
     return "N counts scripts from 1, and \"" + text + "\" is no such number";
   }
 
+  static std::string isNumber(const std::string& text) {
+    const bool isNumber = text.find_first_not_of("0123456789") == std::string::npos;
+    return isNumber && text.size() < 10 ? "" : "N is a number, and not \"" + text + "\"";
+  }
+
+  static std::string isFormName(const std::string& text) {
+    return kydata::isForm(text) ? "" : "there is no form \"" + text + "\"; --help lists them";
+  }
+
   static std::string isInfoType(const std::string& text) {
     for (const kydata::InfoType& type : kydata::kInfoTypes) {
       if (text == std::to_string(type.code)) return "";
@@ -278,6 +345,7 @@ class CommandLine {
   CLI::App* reportCommand_ = nullptr;
   CLI::App* storyboardCommand_ = nullptr;
   CLI::App* dataMapCommand_ = nullptr;
+  CLI::App* checkCommand_ = nullptr;
   std::string file_;  ///< given without a command
   kydata::Colour colour_ = kydata::Colour::automatic;
   kydata::ResourceOptions resource_;
@@ -285,6 +353,7 @@ class CommandLine {
   kydata::ReportOptions report_;
   kydata::StoryboardOptions storyboard_;
   kydata::DataMapOptions dataMap_;
+  kydata::CheckOptions check_;
 };
 
 int runProgram(int argc, char** argv) {

@@ -20,6 +20,7 @@ class Output {
 
   std::ostream& text();
   std::string heading(const std::string& text) const { return coloured("1", text); }
+  std::string alarm(const std::string& text) const { return coloured("1;31", text); }
   std::string faint(const std::string& text) const { return coloured("2", text); }
 
   /// Writes what is still held back.

@@ -1,36 +1,16 @@
-#include <KyDataStructure/cutscript.h>
-#include <KyDataStructure/resource.h>
-
 #include <array>
 #include <filesystem>
 #include <system_error>
 
 #include "commands.h"
-#include "data_map_text.h"
 #include "highlight_text.h"
-#include "owned.h"
+#include "recognition.h"
 #include "refused_text.h"
 #include "report_model.h"
 
 namespace kydata {
 
 namespace {
-
-bool isCutReply(const std::string& text) {
-  return static_cast<bool>(Owned<ZOL::IZolCutScripts>(createCutScripts(text.c_str())));
-}
-
-bool isDataMap(const std::string& text) { return static_cast<bool>(dataMapOf(text)); }
-
-bool isStoryboard(const std::string& text) {
-  Owned<ZOL::IZolStoryboardInfoList> rows(createIZolStoryboardInfoList());
-  return jsonBufferToStoryboardInfoList(zolString(text).get(), rows.get()) == ZOL::kSuccess;
-}
-
-bool isDescription(const std::string& text) {
-  Owned<ZOL::IZolResSerializeInfo> info(createZolResSerializeInfo());
-  return info->setFromBuffer(zolString(text).get()) == ZOL::kSuccess;
-}
 
 void showStoryboardText(const Input& input, Output& out) { showStoryboard(input, 1, out); }
 

@@ -3,9 +3,9 @@
 #include <map>
 
 #include "commands.h"
+#include "description_text.h"
 #include "input.h"
 #include "owned.h"
-#include "refused_text.h"
 #include "resource_table.h"
 #include "text_table.h"
 #include "utf8.h"
@@ -15,16 +15,6 @@ namespace kydata {
 namespace {
 
 using ZOL::IZolResSerializeInfo;
-
-Owned<IZolResSerializeInfo> readDescription(const std::string& text,
-                                            std::optional<int> completeType) {
-  Owned<IZolResSerializeInfo> info(createZolResSerializeInfo());
-  const Owned<ZOL::IZolString> source = zolString(text);
-  const int result = completeType ? info->setFromCompletResInfo(source.get(), *completeType)
-                                  : info->setFromBuffer(source.get());
-  if (result != ZOL::kSuccess) throw Fault(whyRefused(text, info.get(), completeType));
-  return info;
-}
 
 void printNormalForm(IZolResSerializeInfo* info, Output& out) {
   Owned<ZOL::IZolString> text(createZolString());

@@ -124,9 +124,14 @@ std::string userStringsOnOneLine(IZolResSerializeInfo* info) {
   return text;
 }
 
-void printRelated(IZolResSerializeInfo* info, Output& out) {
+Owned<ZOL::IZolResSerializeInfoList> relatedTo(IZolResSerializeInfo* info) {
   Owned<ZOL::IZolResSerializeInfoList> related(createIZolResSerializeInfoList());
   ZOL::query<IZolResSerializeInfoInternal>(info)->relatedResList(related.get());
+  return related;
+}
+
+void printRelated(IZolResSerializeInfo* info, Output& out) {
+  const auto related = relatedTo(info);
   if (related->size() == 0) return;
   TextTable table({{"related", false, 40}, {"type"}, {"user strings"}});
   for (long long i = 0; i < related->size(); ++i) {
@@ -140,6 +145,19 @@ void printRelated(IZolResSerializeInfo* info, Output& out) {
 }
 
 }  // namespace
+
+Held heldBy(IZolResSerializeInfo* info) {
+  Held held;
+  for (const char* property : propertyKeys()) {
+    ZOL::_Property value = {};
+    if (info->getProperty(property, &value) == ZOL::kSuccess) ++held.properties;
+  }
+  for (const char* name : userStringKeys()) {
+    if (*info->userString(name) != '\0') ++held.userStrings;
+  }
+  held.related = relatedTo(info)->size();
+  return held;
+}
 
 void printDescription(const std::string& name, IZolResSerializeInfo* info, Output& out) {
   out.text() << out.heading(printable(name)) << '\n';

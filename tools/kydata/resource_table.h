@@ -9,6 +9,14 @@
 
 namespace kydata {
 
+/// How much a description holds.
+struct Held {
+  long long properties = 0;
+  long long userStrings = 0;  ///< that are not empty
+  long long related = 0;
+};
+Held heldBy(ZOL::IZolResSerializeInfo* info);
+
 /// Prints everything that a description holds, under its name.
 void printDescription(const std::string& name, ZOL::IZolResSerializeInfo* info, Output& out);
 

@@ -72,6 +72,19 @@ std::size_t codePointCount(std::string_view text) {
   return count;
 }
 
+bool isUtf8(std::string_view text) {
+  while (!text.empty()) {
+    std::size_t plain = 0;
+    while (plain < text.size() && static_cast<unsigned char>(text[plain]) < 0x80) ++plain;
+    text.remove_prefix(plain);
+    if (text.empty()) return true;
+    const CodePoint point = firstCodePoint(text);
+    if (!point.valid) return false;
+    text.remove_prefix(point.bytes);
+  }
+  return true;
+}
+
 std::string printable(std::string_view text) {
   std::string shown;
   while (!text.empty()) {

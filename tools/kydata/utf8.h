@@ -21,6 +21,9 @@ CodePoint firstCodePoint(std::string_view text);
 /// The number of code points, a stray byte counting as one.
 std::size_t codePointCount(std::string_view text);
 
+/// True if there is no stray byte.
+bool isUtf8(std::string_view text);
+
 /// The text on one line, as a terminal can show it: control characters, marks that
 /// turn the writing direction and stray bytes become escapes such as \n, \x1b and
 /// \u202e, and a backslash becomes two, so that nothing is ambiguous.
