@@ -24,7 +24,7 @@ void make(const std::string& text, const Ask& ask, Checked& checked) {
 }  // namespace
 
 Checked check(const std::string& text, const Ask& ask) {
-  Checked checked{ask.form, Findings(ask.limit), std::nullopt};
+  Checked checked{ask.form, !ask.form, Findings(ask.limit), std::nullopt};
   if (!checked.form) {
     const Outline outline = outlineOf(text);
     checked.form = formOf(text, outline.isArray, outline.names);

@@ -19,6 +19,7 @@ struct Ask {
 
 struct Checked {
   const Form* form;  ///< null where nothing tells it
+  bool isTold;       ///< by the text itself, which may be wrong
   Findings findings;
   std::optional<Made> made;  ///< nothing where the library refuses the text
 };

@@ -43,6 +43,9 @@ void printChecked(const Input& input, const Checked& checked, Output& out) {
   if (checked.findings.left() > 0) {
     out.text() << " (" << checked.findings.left() << " like those above are left out)";
   }
+  if (checked.form && checked.isTold && !checked.made) {
+    out.text() << "; --form or --complete takes it as another form";
+  }
   out.text() << '\n';
 }
 
