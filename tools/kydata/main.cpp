@@ -55,7 +55,7 @@ class CommandLine {
                "  resource description  a valid description in the normal form\n"
                "  analysis report       a dimension or a keyword\n"
                "  highlight text        an integer \"HLType\", \"trimIn\" or \"trimOut\"\n"
-               "Of a text that is none of them, the command of the form that was meant tells why.\n"
+               "Of a text that is none of them, kydata check tells why.\n"
                "\nExamples:\n"
                "  kydata examples/data/highlight.json\n"
                "  kydata resource examples/data/pack_title.json\n\n"

@@ -1,15 +1,11 @@
 #include "check/check.h"
 
+#include "check/outline.h"
 #include "check/walk.h"
 
 namespace kydata::check {
 
 namespace {
-
-void addError(Code code, const std::string& message, Findings& findings) {
-  if (!findings.count(code, Severity::error, nullptr)) return;
-  findings.add({code, Severity::error, 0, "", message, Effect::refused});
-}
 
 /// Asks the library. Its refusal is told where no finding has told it already.
 void make(const std::string& text, const Ask& ask, Checked& checked) {
@@ -17,7 +13,18 @@ void make(const std::string& text, const Ask& ask, Checked& checked) {
     checked.made = checked.form->read(text, ask.completeType);
   } catch (const Fault& fault) {
     if (checked.findings.counted(Severity::error) > 0) return;
-    addError(Code::refused, std::string("the text ") + fault.what(), checked.findings);
+    checked.findings.add(Code::refused, 0, std::string("the text ") + fault.what(),
+                         Effect::refused);
+  }
+}
+
+/// Whatever its form would be, a text must be JSON.
+void lookForSyntax(const std::string& text, Findings& findings) {
+  Findings all(0);
+  walk(text, highlightForm(), all);
+  for (const Finding& finding : all.kept()) {
+    if (finding.code == Code::syntax)
+      findings.add(finding.code, finding.offset, finding.message, finding.effect);
   }
 }
 
@@ -33,16 +40,10 @@ Checked check(const std::string& text, const Ask& ask) {
     walk(text, *checked.form, checked.findings);
     make(text, ask, checked);
   } else {
-    // Whatever the form would be, its text must be JSON; a highlight is the plainest.
-    Findings syntax(0);
-    walk(text, highlightForm(), syntax);
-    for (const Finding& finding : syntax.kept()) {
-      if (finding.code != Code::syntax) continue;
-      checked.findings.count(finding.code, finding.severity, nullptr);
-      checked.findings.add(finding);
-    }
-    addError(Code::noForm, "no member tells which form this is; --form or --complete says it",
-             checked.findings);
+    lookForSyntax(text, checked.findings);
+    checked.findings.add(Code::noForm, 0,
+                         "no member tells which form this is; --form or --complete says it",
+                         Effect::refused);
   }
   checked.findings.sort();
   return checked;

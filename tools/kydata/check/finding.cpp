@@ -57,6 +57,10 @@ const std::array<CodeRow, 28> kCodes = {{
 
 const CodeRow& rowOf(Code code) { return kCodes.at(static_cast<std::size_t>(code)); }
 
+Severity severityOf(Code code, Effect effect) {
+  return effect == Effect::refused ? Severity::error : rowOf(code).severity;
+}
+
 const char* nameOf(Severity severity) {
   switch (severity) {
     case Severity::note:

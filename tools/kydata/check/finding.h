@@ -58,13 +58,14 @@ enum class Code {
 struct CodeRow {
   Code code;
   const char* name;
-  Severity severity;  ///< where the effect is not that the whole text is refused
+  Severity severity;  ///< unless the whole text is refused
   const char* meaning;
 };
 
 extern const std::array<CodeRow, 28> kCodes;
 
 const CodeRow& rowOf(Code code);
+Severity severityOf(Code code, Effect effect);
 const char* nameOf(Severity severity);
 const char* nameOf(Effect effect);
 

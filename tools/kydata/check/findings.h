@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -18,10 +19,13 @@ class Findings {
   /// Keeps at most `limit` of a kind; all of them for 0.
   explicit Findings(std::size_t limit) : limit_(limit) {}
 
-  /// Counts a finding; true if it is to be kept by add(). Alike are those of one code and
-  /// one rule.
+  /// Counts a finding; true if it is to be handed to keep(). Alike are those of one code
+  /// and one rule.
   bool count(Code code, Severity severity, const void* rule);
-  void add(Finding finding) { kept_.push_back(std::move(finding)); }
+  void keep(Finding finding) { kept_.push_back(std::move(finding)); }
+
+  /// Both at once, for a finding about the text and not about one of its members.
+  void add(Code code, std::size_t offset, std::string message, Effect effect = Effect::none);
 
   /// Puts what was kept in the order of the text.
   void sort();

@@ -7,21 +7,22 @@
 namespace kydata::check {
 
 Places::Places(std::string_view text)
-    : text_(text), begin_(text.substr(0, 3) == "\xEF\xBB\xBF" ? 3 : 0), lineBegin_(begin_) {}
+    : text_(text), begin_(text.substr(0, 3) == "\xEF\xBB\xBF" ? 3 : 0), at_(begin_) {}
 
 Place Places::at(std::size_t offset) {
   offset = std::min(std::max(offset, begin_), text_.size());
-  if (offset < lineBegin_) {
-    line_ = 1;
-    lineBegin_ = begin_;
+  if (offset < at_) {
+    at_ = begin_;
+    place_ = {1, 1};
   }
-  for (;;) {
-    const std::size_t end = text_.find('\n', lineBegin_);
-    if (end >= offset) break;  // also where there is none
-    lineBegin_ = end + 1;
-    ++line_;
+  std::string_view passed = text_.substr(at_, offset - at_);
+  for (std::size_t end = 0; (end = passed.find('\n')) != std::string_view::npos;) {
+    passed.remove_prefix(end + 1);
+    place_ = {place_.line + 1, 1};
   }
-  return {line_, 1 + codePointCount(text_.substr(lineBegin_, offset - lineBegin_))};
+  place_.column += codePointCount(passed);
+  at_ = offset;
+  return place_;
 }
 
 }  // namespace kydata::check

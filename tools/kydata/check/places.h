@@ -21,8 +21,8 @@ class Places {
  private:
   std::string_view text_;
   std::size_t begin_;  ///< behind a byte-order mark, which no editor counts
-  std::size_t line_ = 1;
-  std::size_t lineBegin_;
+  std::size_t at_;     ///< the offset asked for last, and its place
+  Place place_{1, 1};
 };
 
 }  // namespace kydata::check

@@ -60,8 +60,8 @@ enum class Members {
 enum class Elements { all, first };
 
 struct Rule {
-  /// Members behind points, elements as [], any name as *, and a group of names of the
-  /// form as <group>: "<dimension>.labels.*[]". The root's is empty.
+  /// Members behind points, elements as [], any name as *, one of several as a|b, and a
+  /// group of names of the form as <group>: "<dimension>.labels.*[]". The root's is empty.
   const char* path;
   Type type;
   Missing missing;

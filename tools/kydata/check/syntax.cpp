@@ -53,14 +53,10 @@ std::string foundAt(const std::string& text, std::size_t offset) {
 
 }  // namespace
 
-Finding syntaxFinding(const std::string& text, std::size_t offset, rapidjson::ParseErrorCode code) {
-  return {Code::syntax,
-          Severity::error,
-          offset,
-          "",
-          std::string(expectedBy(code)) + " expected, " + foundAt(text, offset) +
-              " found; the whole text is refused",
-          Effect::refused};
+std::string syntaxMessage(const std::string& text, std::size_t offset,
+                          rapidjson::ParseErrorCode code) {
+  return std::string(expectedBy(code)) + " expected, " + foundAt(text, offset) +
+         " found; the whole text is refused";
 }
 
 }  // namespace kydata::check

@@ -6,12 +6,11 @@
 #include <cstddef>
 #include <string>
 
-#include "check/finding.h"
-
 namespace kydata::check {
 
-/// Where the reader gave up, what it found there and what it expected.
-Finding syntaxFinding(const std::string& text, std::size_t offset, rapidjson::ParseErrorCode code);
+/// What the reader expected where it gave up, and what it found there.
+std::string syntaxMessage(const std::string& text, std::size_t offset,
+                          rapidjson::ParseErrorCode code);
 
 }  // namespace kydata::check
 

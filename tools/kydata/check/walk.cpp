@@ -5,6 +5,7 @@
 #include <memory>
 #include <unordered_set>
 
+#include "check/between.h"
 #include "check/look.h"
 #include "check/path.h"
 #include "check/reader.h"
@@ -18,54 +19,6 @@ namespace kydata::check {
 namespace {
 
 constexpr std::size_t kDeep = 500;
-
-/// What stands between two tokens: white space, points, commas and comments.
-class Between {
- public:
-  Between(const std::string& text, Findings& findings) : text_(text), findings_(findings) {}
-
-  void look(std::size_t begin, std::size_t end, bool isInFrontOfClosing) {
-    for (std::size_t at = begin; at < end;) {
-      if (text_[at] == '/') {
-        add(Code::comment, at, "a comment, which strict readers refuse");
-        at = behindComment(at);
-        continue;
-      }
-      if (text_[at] == ',' && isInFrontOfClosing) {
-        add(Code::trailingComma, at,
-            "a comma in front of the bracket, which strict readers refuse");
-      }
-      ++at;
-    }
-  }
-
-  /// Where the next token is, behind white space and comments.
-  std::size_t skip(std::size_t at) const {
-    for (;;) {
-      at = std::min(text_.find_first_not_of(" \t\r\n", at), text_.size());
-      const std::size_t end = at < text_.size() && text_[at] == '/' ? behindComment(at) : at;
-      if (end == at) return at;
-      at = end;
-    }
-  }
-
- private:
-  /// Where a comment ends, or where it stands if it is none.
-  std::size_t behindComment(std::size_t at) const {
-    const bool isBlock = text_.compare(at, 2, "/*") == 0;
-    if (!isBlock && text_.compare(at, 2, "//") != 0) return at;
-    const std::size_t end = isBlock ? text_.find("*/", at + 2) : text_.find('\n', at);
-    return end == std::string::npos ? text_.size() : end + (isBlock ? 2 : 1);
-  }
-
-  void add(Code code, std::size_t at, const char* message) {
-    if (!findings_.count(code, Severity::note, nullptr)) return;
-    findings_.add({code, Severity::note, at, "", message, Effect::none});
-  }
-
-  const std::string& text_;
-  Findings& findings_;
-};
 
 /// An object or array that is open.
 struct Frame {
@@ -304,9 +257,9 @@ class Walk : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Walk> {
   /// `member` names one that is not at hand.
   void report(Code code, Effect effect, std::size_t at, const Rule* rule, const std::string& member,
               const std::string& message) {
-    const Severity severity = effect == Effect::refused ? Severity::error : rowOf(code).severity;
+    const Severity severity = severityOf(code, effect);
     if (!findings_.count(code, severity, rule)) return;
-    findings_.add({code, severity, at, pathTo(member), message, effect});
+    findings_.keep({code, severity, at, pathTo(member), message, effect});
   }
 
   std::string pathTo(const std::string& member) const {
@@ -331,53 +284,13 @@ class Walk : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Walk> {
   std::vector<Frame> frames_;
 };
 
-/// The members of the outermost object.
-class OutlineReader : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, OutlineReader> {
- public:
-  // The names are those that RapidJSON calls.
-  bool Default() { return depth_ > 0; }
-  bool RawNumber(const char*, rapidjson::SizeType, bool) { return Default(); }
-  bool Key(const char* text, rapidjson::SizeType size, bool) {
-    if (depth_ == 1) outline_.names.emplace_back(text, size);
-    return true;
-  }
-  bool StartObject() { return ++depth_ > 0; }
-  bool EndObject(rapidjson::SizeType) { return --depth_ >= 0; }
-  bool StartArray() {
-    if (++depth_ > 1) return true;
-    outline_.isArray = true;
-    return false;  // that is all
-  }
-  bool EndArray(rapidjson::SizeType) { return --depth_ >= 0; }
-
-  Outline& outline() { return outline_; }
-
- private:
-  long long depth_ = 0;
-  Outline outline_;
-};
-
-void noteTextBehind(const std::string& text, std::size_t end, Findings& findings) {
-  const std::size_t behind = Between(text, findings).skip(end);
-  if (behind == text.size()) return;
-  const Code code = Code::textBehind;
-  if (!findings.count(code, rowOf(code).severity, nullptr)) return;
-  findings.add({code, rowOf(code).severity, behind, "",
-                "the root value has ended, and from here on nothing is looked at",
-                Effect::ignored});
-}
-
-void noteMark(std::size_t size, Findings& findings) {
-  if (size == 0 || !findings.count(Code::byteOrderMark, Severity::note, nullptr)) return;
-  findings.add({Code::byteOrderMark, Severity::note, 0, "",
-                "a byte-order mark, which other readers may not skip", Effect::none});
-}
-
 }  // namespace
 
 void walk(const std::string& text, const Form& form, Findings& findings) {
   ReadCopy source(text, form.skipsMark);
-  noteMark(source.markSkipped(), findings);
+  if (source.markSkipped() > 0) {
+    findings.add(Code::byteOrderMark, 0, "a byte-order mark, which other readers may not skip");
+  }
   const RuleTree rules(form);
   Walk handler(text, rules, source, findings);
   rapidjson::Reader reader;
@@ -385,19 +298,14 @@ void walk(const std::string& text, const Form& form, Findings& findings) {
                                             ? reader.Parse<kStrictJson>(source.stream(), handler)
                                             : reader.Parse<kTolerantJson>(source.stream(), handler);
   if (result.IsError()) {
-    findings.count(Code::syntax, Severity::error, nullptr);
-    findings.add(syntaxFinding(text, source.markSkipped() + result.Offset(), result.Code()));
+    const std::size_t at = source.markSkipped() + result.Offset();
+    findings.add(Code::syntax, at, syntaxMessage(text, at, result.Code()), Effect::refused);
     return;
   }
-  noteTextBehind(text, source.at(), findings);
-}
-
-Outline outlineOf(const std::string& text) {
-  ReadCopy source(text, true);
-  OutlineReader handler;
-  rapidjson::Reader reader;
-  reader.Parse<kTolerantJson>(source.stream(), handler);
-  return std::move(handler.outline());
+  const std::size_t behind = Between(text, findings).skip(source.at());
+  if (behind == text.size()) return;
+  findings.add(Code::textBehind, behind,
+               "the root value has ended, and from here on nothing is looked at", Effect::ignored);
 }
 
 }  // namespace kydata::check
