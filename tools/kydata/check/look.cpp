@@ -209,6 +209,9 @@ Found lookAt(const Value& value, const Rule& rule, std::string_view name) {
       return lookAtScoredSpan(value, name);
     case Look::base64:
       return lookAtBase64(value);
+    case Look::samples:
+      return Remark{Code::neverRead, Effect::ignored,
+                    "the samples are kept, and the library does not give them out"};
     case Look::knownType:
       return lookAtKnownType(value, rule);
     case Look::stockId:

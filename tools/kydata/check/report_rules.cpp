@@ -17,7 +17,7 @@ const Form& reportForm() {
            "A dimension: spans of the video under labels.", "the report has no such dimension"},
           {"<dimension>.scores", Type::array, Missing::fine, Effect::ignored,
            "Samples, a second apart. They are kept, and not given out.",
-           "the dimension has no samples"},
+           "the dimension has no samples", Look::samples},
           {"<dimension>.scores[]", Type::integer32, Missing::fine, Effect::ignored, "A sample.",
            "it is no sample, and takes no time"},
           {"<dimension>.labels", Type::object, Missing::fine, Effect::ignored,

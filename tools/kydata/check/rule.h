@@ -40,6 +40,7 @@ enum class Look {
   span,             ///< "0:1:30Z-0:2:0Z"
   scoredSpan,       ///< the same, and the label around it is a score
   base64,
+  samples,       ///< kept, and not given out
   knownType,     ///< -1 counts as no resource type
   stockId,       ///< a text is reduced to a sum
   propertyText,  ///< given out up to 1023 bytes

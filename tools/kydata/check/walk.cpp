@@ -10,6 +10,7 @@
 #include "check/path.h"
 #include "check/reader.h"
 #include "check/rule_tree.h"
+#include "check/similar.h"
 #include "check/syntax.h"
 #include "check/value.h"
 #include "utf8.h"
@@ -227,7 +228,18 @@ class Walk : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Walk> {
     const Members members = frame.node->membersRule();
     if (members == Members::passedOn || members == Members::ofAProvider) return;
     report(Code::unknownMember, Effect::ignored, frame.keyStart, frame.node->rule, "",
-           "there is no such member here, and nobody reads it");
+           "there is no such member here, and nobody reads it" + suggestionFor(frame));
+  }
+
+  /// The known name that an unknown one may be meant to be.
+  static std::string suggestionFor(const Frame& frame) {
+    const std::string* nearest = nullptr;
+    for (const auto& [name, node] : frame.node->members) {
+      if (!areSimilar(frame.key, name)) continue;
+      if (nearest && distance(frame.key, *nearest) <= distance(frame.key, name)) continue;
+      nearest = &name;
+    }
+    return nearest ? "; is it \"" + *nearest + "\"?" : "";
   }
 
   void lookForMissing(const Frame& frame) {
