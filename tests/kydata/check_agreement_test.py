@@ -18,11 +18,13 @@ finds an error.
 import copy
 import json
 import random
+import re
+import subprocess
 import unittest
 
 import jsonschema
 
-from check_support import FORMS, ROOT, TESTS, checked, shown
+from check_support import FORMS, KYDATA, ROOT, TESTS, checked, shown
 
 TYPE_CODES = {"wrong-type", "not-an-integer", "out-of-range"}
 
@@ -40,6 +42,7 @@ def whole(form):
 
 def schema_of(form):
     schema = json.loads((ROOT / "schemas" / f"{form}.schema.json").read_text())
+    jsonschema.Draft202012Validator.check_schema(schema)
     return jsonschema.Draft202012Validator(schema)
 
 
@@ -178,6 +181,36 @@ class Agreement(unittest.TestCase):
                     self.assertConsistent(form, result)
                     self.assertSchemaAgrees(validator, text.read_bytes(), result)
 
+    def test_a_text_that_is_shown_without_a_command_is_told_to_be_of_that_form(self):
+        for text in sorted(ROOT.glob("examples/data/**/*.json")):
+            run = subprocess.run([KYDATA, text], capture_output=True, check=False)
+            command = [KYDATA, "check", "--json", text]
+            check = subprocess.run(command, capture_output=True, check=False)
+            (result,) = json.loads(check.stdout)["files"]
+            with self.subTest(text.name):
+                self.assertEqual(run.returncode == 0, result.get("accepted", False), result)
+
+    def test_labels_that_are_scores_are_judged_alike(self):
+        labels = ["90", "90 of 100", " 7", "\t\v\f7", "+7", "-7", "+-7", "- 7", "0x10"]
+        labels += ["", "x", "."]
+        labels += ["2147483647", "2147483648", "-2147483648", "-2147483649", "1" * 30, "5\0", "\0"]
+        spans = ["0:0:1Z-0:0:2Z", "no span"]
+        texts = [
+            json.dumps({"total": {"labels": {label: [span]}}}) for label in labels for span in spans
+        ]
+        for text, result in zip(texts, checked("report", texts)):
+            with self.subTest(text):
+                self.assertConsistent("report", result)
+
+    def test_names_that_are_no_plain_ids_are_told_with_the_id_that_they_stand_for(self):
+        names = ["7", "-7", "0", "-0", "07", " 7", "+7", "7a", "x", "", "2147483647", "-2147483648"]
+        texts = [json.dumps({"dataMap": {name: "t"}}) for name in names]
+        for name, text, result in zip(names, texts, checked("datamap", texts)):
+            with self.subTest(name):
+                (row,) = re.findall(r"^ +(-?\d+)  t$", shown("datamap", text).decode(), re.M)
+                told = [finding["message"].rsplit(" ", 1)[1] for finding in result["findings"]]
+                self.assertEqual(told, [] if row == name else [row])
+
     def test_random_changes_are_judged_alike(self):
         dice = random.Random(7)
         for form in FORMS:
@@ -221,7 +254,8 @@ def changed_values(dice, value):
         if dice.random() < 0.3:
             value = without(value, path)
         else:
-            others = [0, -1, 5, 1.5, 2**31, 2**63, "", "7", "0:0:1Z-0:0:2Z", "x", None, True, [], {}]
+            others = [0, -1, 5, 1.5, 2**31, 2**63, None, True, [], {}]
+            others += ["", "7", "0:0:1Z-0:0:2Z", "x"]
             others.append(at(value, dice.choice(spots)))
             value = replaced(value, path, copy.deepcopy(dice.choice(others)))
     return json.dumps(value)

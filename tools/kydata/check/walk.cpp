@@ -33,7 +33,7 @@ struct Frame {
   std::string_view key;          ///< of the member at hand
   std::size_t keyStart = 0;      ///< 0 ahead of the first one
   const Node* member = nullptr;  ///< that the key names, if it is read
-  std::uint64_t seen = 0;        ///< the members that were there, by their index
+  std::uint64_t seen = 0;        ///< which members were there, by index; no object has 64
   std::unique_ptr<std::unordered_set<std::string>> names;  ///< where the last one counts
   std::string_view previousKey;                            ///< where the last array counts
   std::size_t previousStart = 0;                           ///< of the value; 0 for none
