@@ -41,9 +41,11 @@ Checked check(const std::string& text, const Ask& ask) {
     make(text, ask, checked);
   } else {
     lookForSyntax(text, checked.findings);
-    checked.findings.add(Code::noForm, 0,
-                         "no member tells which form this is; --form or --complete says it",
-                         Effect::refused);
+    if (checked.findings.counted(Severity::error) == 0) {
+      checked.findings.add(Code::noForm, 0,
+                           "no member tells which form this is; --form or --complete says it",
+                           Effect::refused);
+    }
   }
   checked.findings.sort();
   return checked;

@@ -24,6 +24,7 @@ class SchemaWriter {
     const RuleTree rules(form);
     writer_.StartObject();
     text("$schema", "https://json-schema.org/draft/2020-12/schema");
+    text("$comment", "Written by kydata check --schema.");
     text("title", form.title);
     text("description", form.meaning);
     writeType(rules.root());
