@@ -260,7 +260,7 @@ class CommandLine {
         listOfInfoTypes() +
         "\nA finding stands behind FILE:LINE:COLUMN:. An error is why the library refuses the\n"
         "text, a warning is of what is lost or read as something else, a note of what is\n"
-        "worth to know and needs no other text. docs/findings.md explains each code.\n"
+        "worth knowing and needs no other text. docs/findings.md explains each code.\n"
         "\nExamples:\n"
         "  kydata check reply.json                     whatever form it is\n"
         "  kydata check --complete 106 sticker.json    a provider's record\n"

@@ -2,7 +2,7 @@
 
 namespace kydata::check {
 
-const std::array<CodeRow, 28> kCodes = {{
+constexpr std::array<CodeRow, 28> kCodes = {{
     {Code::syntax, "syntax", Severity::error, "the text is not the JSON that the library reads"},
     {Code::noForm, "no-form", Severity::error, "nothing in the text tells which form it is"},
     {Code::refused, "refused", Severity::error,
@@ -54,6 +54,18 @@ const std::array<CodeRow, 28> kCodes = {{
     {Code::textBehind, "text-behind", Severity::warning,
      "what stands behind the end of the root value is not looked at"},
 }};
+
+namespace {
+
+constexpr bool rowsStandAtTheirCodes() {
+  for (std::size_t i = 0; i < kCodes.size(); ++i) {
+    if (kCodes[i].code != static_cast<Code>(i)) return false;
+  }
+  return true;
+}
+static_assert(rowsStandAtTheirCodes());
+
+}  // namespace
 
 const CodeRow& rowOf(Code code) { return kCodes.at(static_cast<std::size_t>(code)); }
 
