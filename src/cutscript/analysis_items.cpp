@@ -5,15 +5,15 @@ namespace {
 
 // Makes the field's list on first use and fills it from the caller's.
 template <class List>
-void keepCopy(Ref<List>& field, List* (*create)(), List* from) {
-  if (!field) field = Ref<List>::adopt(create());
+void keepCopy(Handle<List>& field, List* (*create)(), List* from) {
+  if (!field) field = Handle<List>::adopt(create());
   field->clear();
   field->assign(from);
 }
 
 // The same for fields that null clears.
 template <class List>
-void keepCopyOrNone(Ref<List>& field, List* (*create)(), List* from) {
+void keepCopyOrNone(Handle<List>& field, List* (*create)(), List* from) {
   if (from) {
     keepCopy(field, create, from);
   } else {
@@ -114,7 +114,7 @@ IZolDemensionsItem* ZolKeyMatrixInfo::dimensionItem(int type) {
 
 int ZolKeyMatrixInfo::setDimensionItem(int type, IZolDemensionsItem* item) {
   if (!item) return kRefused;
-  dimensions_[type] = Ref<IZolDemensionsItem>::share(item);
+  dimensions_[type] = Handle<IZolDemensionsItem>::share(item);
   return kSuccess;
 }
 
@@ -132,5 +132,7 @@ int ZolKeyMatrixInfo::setKeywords(ZOLPCharList* keywords) {
 
 }  // namespace ZOL
 
-ZOL::IZolSliceItem* createSliceItem() { return ZOL::make<ZOL::ZolSliceItem>(); }
-ZOL::IZolDemensionsItem* createDemensionsItem() { return ZOL::make<ZOL::ZolDemensionsItem>(); }
+ZOL::IZolSliceItem* createSliceItem() { return ZOL::makeObject<ZOL::ZolSliceItem>(); }
+ZOL::IZolDemensionsItem* createDemensionsItem() {
+  return ZOL::makeObject<ZOL::ZolDemensionsItem>();
+}

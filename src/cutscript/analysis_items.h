@@ -11,7 +11,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/shared_text.h"
 
 namespace ZOL {
@@ -45,8 +45,8 @@ class ZolSliceItem final : public Counted<IZolSliceItem, IZolSliceItemInternal, 
   Plain<long long> startTime_;
   Plain<long long> endTime_;
   Plain<int> score_{100};
-  Ref<ZOLPCharList> keys_;  // null until first set, as every list below
-  Ref<ZOLPCharList> values_;
+  Handle<ZOLPCharList> keys_;  // null until first set, as every list below
+  Handle<ZOLPCharList> values_;
   Kept<IZolBGRData> faceImage_;
 };
 
@@ -70,21 +70,21 @@ class ZolDemensionsItem final
   int setScores(ZOLLonglongList* times, ZOLIntList* scores) override;
 
   // For the reader, whose lists nobody else has: taken as they are.
-  void takeSliceItems(Ref<IZolSliceItemList> slices) { sliceItems_ = std::move(slices); }
-  void takeLabelSliceItems(const char* label, Ref<IZolSliceItemList> slices) {
+  void takeSliceItems(Handle<IZolSliceItemList> slices) { sliceItems_ = std::move(slices); }
+  void takeLabelSliceItems(const char* label, Handle<IZolSliceItemList> slices) {
     labelSliceItems_[label] = std::move(slices);
   }
-  void takeScores(Ref<ZOLLonglongList> times, Ref<ZOLIntList> scores) {
+  void takeScores(Handle<ZOLLonglongList> times, Handle<ZOLIntList> scores) {
     scoreTimes_ = std::move(times);
     scores_ = std::move(scores);
   }
 
  private:
   Plain<int> dimensionType_;
-  Ref<IZolSliceItemList> sliceItems_;
-  std::map<std::string, Ref<IZolSliceItemList>> labelSliceItems_;
-  Ref<ZOLLonglongList> scoreTimes_;
-  Ref<ZOLIntList> scores_;
+  Handle<IZolSliceItemList> sliceItems_;
+  std::map<std::string, Handle<IZolSliceItemList>> labelSliceItems_;
+  Handle<ZOLLonglongList> scoreTimes_;
+  Handle<ZOLIntList> scores_;
 };
 
 class ZolKeyMatrixInfo final
@@ -104,8 +104,8 @@ class ZolKeyMatrixInfo final
 
  private:
   TextTakingNull matrixName_;
-  std::map<int, Ref<IZolDemensionsItem>> dimensions_;
-  Ref<ZOLPCharList> keywords_;
+  std::map<int, Handle<IZolDemensionsItem>> dimensions_;
+  Handle<ZOLPCharList> keywords_;
 };
 
 }  // namespace ZOL

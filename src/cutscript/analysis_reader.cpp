@@ -71,7 +71,7 @@ class SliceMaker {
     return slice;
   }
 
-  Ref<SliceList> giveList() { return std::move(list_); }
+  Handle<SliceList> giveList() { return std::move(list_); }
 
  private:
   ZolSliceItem& add(std::string_view label) {
@@ -80,13 +80,13 @@ class SliceMaker {
       batch_.emplace(left_ * (Batch::room<ZolSliceItem>() + SharedText::room(label)));
     }
     --left_;
-    Ref<ZolSliceItem> slice = batch_->make<ZolSliceItem>();
+    Handle<ZolSliceItem> slice = batch_->make<ZolSliceItem>();
     ZolSliceItem& added = *slice.get();
     list_->elements().push_back(std::move(slice));
     return added;
   }
 
-  Ref<SliceList> list_ = makeRef<SliceList>();
+  Handle<SliceList> list_ = makeHandle<SliceList>();
   std::optional<Batch> batch_;
   bool isFirstOfBatch_ = true;
   SharedText commonLabel_;
@@ -94,7 +94,7 @@ class SliceMaker {
 };
 
 // ["0:0:1Z-0:0:4Z", ...]; what is no span of time is passed over.
-Ref<SliceList> readSlices(Value spans, const char* label, int score, IZolBGRData* face) {
+Handle<SliceList> readSlices(Value spans, const char* label, int score, IZolBGRData* face) {
   SliceMaker slices(spans.size());
   Span span{};
   for (const Value element : spans.elements()) {
@@ -111,8 +111,8 @@ Ref<SliceList> readSlices(Value spans, const char* label, int score, IZolBGRData
 // [80, 75]: samples a second apart. What is no number is no sample and takes no time.
 void readScores(Value samples, ZolDemensionsItem& item) {
   if (!samples.isArray()) return;
-  auto times = makeRef<ValueList<ZOLLonglongList>>();
-  auto scores = makeRef<ValueList<ZOLIntList>>();
+  auto times = makeHandle<ValueList<ZOLLonglongList>>();
+  auto scores = makeHandle<ValueList<ZOLIntList>>();
   std::vector<int>& scored = scores->elements();
   scored.reserve(samples.size());
   for (const Value sample : samples.elements()) {
@@ -157,7 +157,7 @@ void readLabels(Value labels, const LabelledDimension& dimension, ZolDemensionsI
 void readLabelledDimension(Value object, const LabelledDimension& dimension,
                            ZolKeyMatrixInfo& report) {
   if (!object.isObject()) return;
-  const Ref<ZolDemensionsItem> item = makeRef<ZolDemensionsItem>();
+  const Handle<ZolDemensionsItem> item = makeHandle<ZolDemensionsItem>();
   item->setDimensionType(dimension.type);
   readScores(object.member("scores"), *item.get());
   readLabels(object.member("labels"), dimension, *item.get());
@@ -171,14 +171,14 @@ bool isFaceImage(Value image) {
 }
 
 // The image of a face; of several under one name the last counts. Null if none.
-Ref<IZolBGRData> readFaceImage(Value imageMap, const char* name) {
+Handle<IZolBGRData> readFaceImage(Value imageMap, const char* name) {
   Value image;
   for (const Member member : imageMap.members()) {
     if (sameText(member.key->text, name) && isFaceImage(member.value)) image = member.value;
   }
   if (!image) return nullptr;
   const DecodedBytes decoded = decodeBase64(image.member("base64").bytes());
-  return Ref<IZolBGRData>::adopt(
+  return Handle<IZolBGRData>::adopt(
       createBGRData(static_cast<unsigned int>(*image.member("width").integer32()),
                     static_cast<unsigned int>(*image.member("height").integer32()),
                     decoded.bytes.get(), static_cast<int>(decoded.size), 0));
@@ -195,8 +195,8 @@ void readFaceClusters(Value clusters, Value imageMap, ZolKeyMatrixInfo& report) 
     name = member.key->text;
   }
   if (!last) return;
-  const Ref<IZolBGRData> image = readFaceImage(imageMap, name);
-  const Ref<ZolDemensionsItem> item = makeRef<ZolDemensionsItem>();
+  const Handle<IZolBGRData> image = readFaceImage(imageMap, name);
+  const Handle<ZolDemensionsItem> item = makeHandle<ZolDemensionsItem>();
   item->setDimensionType(kFaceCluster);
   item->takeSliceItems(readSlices(last, name, kUnscored, image.get()));
   report.setDimensionItem(kFaceCluster, item.get());
@@ -218,7 +218,7 @@ void readSpeech(Value sentences, ZolKeyMatrixInfo& report) {
     slice.setStartTime(*begin);
     slice.setEndTime(*end);
   }
-  const Ref<ZolDemensionsItem> item = makeRef<ZolDemensionsItem>();
+  const Handle<ZolDemensionsItem> item = makeHandle<ZolDemensionsItem>();
   item->setDimensionType(kSpeech);
   item->takeSliceItems(slices.giveList());
   report.setDimensionItem(kSpeech, item.get());
@@ -226,7 +226,7 @@ void readSpeech(Value sentences, ZolKeyMatrixInfo& report) {
 
 void readKeywords(Value words, ZolKeyMatrixInfo& report) {
   if (!words.isArray()) return;
-  const auto keywords = Ref<ZOLPCharList>::adopt(createZOLPCharList());
+  const auto keywords = Handle<ZOLPCharList>::adopt(createZOLPCharList());
   for (const Value word : words.elements()) {
     if (const char* const text = word.text()) keywords->add(text);
   }
@@ -239,7 +239,7 @@ void readKeywords(Value words, ZolKeyMatrixInfo& report) {
 class ReportReader final : public json::RootWatcher {
  public:
   void begin() override {
-    report_ = makeRef<ZolKeyMatrixInfo>();
+    report_ = makeHandle<ZolKeyMatrixInfo>();
     seen_ = {};
     seenSpeech_ = false;
     seenKeywords_ = false;
@@ -278,7 +278,7 @@ class ReportReader final : public json::RootWatcher {
   static constexpr const char* kClustersMember = "face_cluster";
   static constexpr const char* kImagesMember = "face_image_map";
 
-  Ref<ZolKeyMatrixInfo> report_;
+  Handle<ZolKeyMatrixInfo> report_;
   std::array<bool, std::size(kLabelledDimensions)> seen_{};
   bool seenSpeech_ = false;
   bool seenKeywords_ = false;

@@ -44,10 +44,10 @@ struct TextMembers {
   std::array<Value, 3> broll;
 };
 
-Ref<ZolTextInfo> readText(const TextMembers& members, Batch& batch) {
+Handle<ZolTextInfo> readText(const TextMembers& members, Batch& batch) {
   const auto& in = members.in;
   const auto& broll = members.broll;
-  Ref<ZolTextInfo> text = batch.make<ZolTextInfo>();
+  Handle<ZolTextInfo> text = batch.make<ZolTextInfo>();
   if (const auto start = in[TextMembers::kStartTime].integer64()) text->setStart(*start);
   if (const auto end = in[TextMembers::kEndTime].integer64()) text->setEnd(*end);
   // On purpose "text" must be an integer, and an integer has no text: whatever stands
@@ -62,12 +62,12 @@ Ref<ZolTextInfo> readText(const TextMembers& members, Batch& batch) {
 }
 
 // {"start_time": 0, "end_time": 900, "class": ...}
-Ref<ZolHighlightInfo> readHighlight(Value item, Batch& batch) {
+Handle<ZolHighlightInfo> readHighlight(Value item, Batch& batch) {
   enum : std::size_t { kStartTime, kEndTime, kClass };
   static constexpr auto kMembers = json::namesOf("start_time", "end_time", "class");
 
   const auto in = json::sortIn(kMembers, item);
-  Ref<ZolHighlightInfo> highlight = batch.make<ZolHighlightInfo>();
+  Handle<ZolHighlightInfo> highlight = batch.make<ZolHighlightInfo>();
   if (const auto start = in[kStartTime].integer64()) highlight->setTrimIn(*start);
   if (const auto end = in[kEndTime].integer64()) highlight->setTrimOut(*end);
   // On purpose "class" must be an integer to be looked at, and an integer is never the
@@ -126,8 +126,8 @@ class ScriptReader {
     Batch batch(roomOfItem(in[kHighlight].size(),
                            {in[kTitle], in[kSubtitle], in[kDescription], in[kFileName]}));
 
-    Ref<ZolSmartCutClipInfo> clip = batch.make<ZolSmartCutClipInfo>();
-    Ref<ZolStoryboardInfo> row = batch.make<ZolStoryboardInfo>();
+    Handle<ZolSmartCutClipInfo> clip = batch.make<ZolSmartCutClipInfo>();
+    Handle<ZolStoryboardInfo> row = batch.make<ZolStoryboardInfo>();
     if (const char* const name = in[kScriptClass].text()) readClass(name, *row.get(), *clip.get());
     const bool opensMusic = openMusic_ && row->scriptClass() == kChapterRow;
 
@@ -195,7 +195,7 @@ class ScriptReader {
     } else if (sameText(name, "chapter")) {
       scriptClass = kChapterRow;
       closeMusic();
-      openMusic_ = makeRef<ZolMusicInfo>();
+      openMusic_ = makeHandle<ZolMusicInfo>();
       openMusic_->setMusicType(musicType_);
     }
     row.setScriptClass(scriptClass);
@@ -210,28 +210,29 @@ class ScriptReader {
 
   // The one section of a script without chapters.
   void addWholeMusic(Value description) {
-    Ref<ZolMusicInfo> music = makeRef<ZolMusicInfo>();
+    Handle<ZolMusicInfo> music = makeHandle<ZolMusicInfo>();
     music->setMusicType(musicType_);
     music->setEnd(musicEnd_);
     music->setDescription(SharedText(description.bytes()));
     music_->elements().push_back(std::move(music));
   }
 
-  Ref<ObjectList<IZolStoryboardInfoList>> rows_ = makeRef<ObjectList<IZolStoryboardInfoList>>();
-  Ref<ObjectList<IZolSmartCutClipInfoList>> clips_ =
-      makeRef<ObjectList<IZolSmartCutClipInfoList>>();
-  Ref<ObjectList<IZolMusicInfoList>> music_ = makeRef<ObjectList<IZolMusicInfoList>>();
+  Handle<ObjectList<IZolStoryboardInfoList>> rows_ =
+      makeHandle<ObjectList<IZolStoryboardInfoList>>();
+  Handle<ObjectList<IZolSmartCutClipInfoList>> clips_ =
+      makeHandle<ObjectList<IZolSmartCutClipInfoList>>();
+  Handle<ObjectList<IZolMusicInfoList>> music_ = makeHandle<ObjectList<IZolMusicInfoList>>();
   std::vector<TextMembers> texts_;  // of the item that is being read
   int musicType_;
   long long offset_ = 0;  // where the finished timeline has got to
   long long musicEnd_ = 0;
-  Ref<ZolMusicInfo> openMusic_;
+  Handle<ZolMusicInfo> openMusic_;
 };
 
 // Reads each script as soon as it is parsed.
 class ScriptsReader final : public json::RootWatcher {
  public:
-  void begin() override { scripts_ = makeRef<ZolCutScripts>(); }
+  void begin() override { scripts_ = makeHandle<ZolCutScripts>(); }
   bool takes(const json::Node* key, Value script) override {
     if (!key) ScriptReader::read(script, *scripts_.get());
     return true;
@@ -240,7 +241,7 @@ class ScriptsReader final : public json::RootWatcher {
   IZolCutScripts* giveScripts() { return scripts_.give(); }
 
  private:
-  Ref<ZolCutScripts> scripts_;
+  Handle<ZolCutScripts> scripts_;
 };
 
 }  // namespace

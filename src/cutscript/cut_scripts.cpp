@@ -30,7 +30,7 @@ IZolSmartCutClipInfoList* ZolCutScripts::smartCutClipInfoList(int index) {
 long long ZolCutScripts::scriptDuration(int index) {
   const CutScriptEntry* const entry = entryAt(index);
   if (!entry) return 0;
-  const Ref<IZolStoryboardInfoList> rows = entry->storyboards;
+  const Handle<IZolStoryboardInfoList> rows = entry->storyboards;
   long long duration = 0;
   for (long long i = 0; i < rows->size(); ++i) {
     IZolStoryboardInfo* const row = rows->at(i);

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/shared_text.h"
 
 namespace ZOL {
@@ -16,9 +16,9 @@ namespace ZOL {
 // Rows and clips are filled in step: index i of one is index i of the other.
 struct CutScriptEntry {
   SharedText title;
-  Ref<IZolStoryboardInfoList> storyboards;
-  Ref<IZolSmartCutClipInfoList> clips;
-  Ref<IZolMusicInfoList> music;
+  Handle<IZolStoryboardInfoList> storyboards;
+  Handle<IZolSmartCutClipInfoList> clips;
+  Handle<IZolMusicInfoList> music;
 };
 
 class ZolCutScripts final : public Counted<IZolCutScripts, RefCnt<void>> {

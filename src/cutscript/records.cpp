@@ -1,6 +1,6 @@
 #include "cutscript/records.h"
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -47,13 +47,15 @@ class ZolTargetScreenInfo final
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IZolStoryboardInfo* createStoryboardInfo() { return ZOL::make<ZOL::ZolStoryboardInfo>(); }
+ZOL::IZolStoryboardInfo* createStoryboardInfo() {
+  return ZOL::makeObject<ZOL::ZolStoryboardInfo>();
+}
 ZOL::IZolSmartCutClipInfo* createSmartCutClipInfo() {
-  return ZOL::make<ZOL::ZolSmartCutClipInfo>();
+  return ZOL::makeObject<ZOL::ZolSmartCutClipInfo>();
 }
-ZOL::IZolTextInfo* createTextInfo() { return ZOL::make<ZOL::ZolTextInfo>(); }
+ZOL::IZolTextInfo* createTextInfo() { return ZOL::makeObject<ZOL::ZolTextInfo>(); }
 ZOL::IZolTargetScreenInfo* createTargetScreenInfo() {
-  return ZOL::make<ZOL::ZolTargetScreenInfo>();
+  return ZOL::makeObject<ZOL::ZolTargetScreenInfo>();
 }
-ZOL::IZolHighlightInfo* createHighlightInfo() { return ZOL::make<ZOL::ZolHighlightInfo>(); }
-ZOL::IZolMusicInfo* createMusicInfo() { return ZOL::make<ZOL::ZolMusicInfo>(); }
+ZOL::IZolHighlightInfo* createHighlightInfo() { return ZOL::makeObject<ZOL::ZolHighlightInfo>(); }
+ZOL::IZolMusicInfo* createMusicInfo() { return ZOL::makeObject<ZOL::ZolMusicInfo>(); }

@@ -10,7 +10,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/shared_text.h"
 
 namespace ZOL {
@@ -86,8 +86,8 @@ class ZolSmartCutClipInfo final
   void setSubtitle(SharedText text) { subtitle_.set(std::move(text)); }
   void setFileName(SharedText text) { fileName_.set(std::move(text)); }
   // The same lists, handed over.
-  void setTextInfoList(Ref<IZolTextInfoList> list) { textInfoList_.set(std::move(list)); }
-  void setHighlightInfoList(Ref<IZolHighlightInfoList> list) {
+  void setTextInfoList(Handle<IZolTextInfoList> list) { textInfoList_.set(std::move(list)); }
+  void setHighlightInfoList(Handle<IZolHighlightInfoList> list) {
     highlightInfoList_.set(std::move(list));
   }
 

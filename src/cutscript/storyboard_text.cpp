@@ -14,7 +14,7 @@
 //   }
 
 #include "cutscript/records.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "json/document.h"
 #include "json/writer.h"
 
@@ -28,7 +28,7 @@ constexpr auto kRowMembers =
     json::namesOf("script_class", "start", "end", "title", "subtitle", "description");
 
 // A row that is complete, or none.
-Ref<ZolStoryboardInfo> readRow(json::Value element) {
+Handle<ZolStoryboardInfo> readRow(json::Value element) {
   const auto in = json::sortIn(kRowMembers, element);
   const auto scriptClass = in[kScriptClass].integer32();
   const auto start = in[kStart].integer64();
@@ -38,7 +38,7 @@ Ref<ZolStoryboardInfo> readRow(json::Value element) {
   const char* const description = in[kDescription].text();
   if (!scriptClass || !start || !end || !title || !subtitle || !description) return nullptr;
 
-  Ref<ZolStoryboardInfo> row = makeRef<ZolStoryboardInfo>();
+  Handle<ZolStoryboardInfo> row = makeHandle<ZolStoryboardInfo>();
   const bool known = *scriptClass >= kPlainRow && *scriptClass <= kFrameRow;
   row->setScriptClass(known ? *scriptClass : kPlainRow);
   row->setStart(*start);

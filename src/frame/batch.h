@@ -2,7 +2,7 @@
 // together.
 //
 //   Batch batch(Batch::room<ZolTextInfo>() + SharedText::room(words));
-//   Ref<ZolTextInfo> item = batch.make<ZolTextInfo>();
+//   Handle<ZolTextInfo> item = batch.make<ZolTextInfo>();
 //   item->setText(batch.put(words));
 //
 //   shares | counter block, object | counter block, object | ... | text | text
@@ -19,7 +19,7 @@
 #include <new>
 #include <string_view>
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/ref_cnt.h"
 #include "frame/shared_text.h"
 #include "frame/shares.h"
@@ -56,15 +56,15 @@ class Batch {
 
   // A new object with its first reference.
   template <class Class>
-  Ref<Class> make() {
-    if (!hasRoom<Class>()) return makeRef<Class>();
+  Handle<Class> make() {
+    if (!hasRoom<Class>()) return makeHandle<Class>();
     auto* const block = new (objects_) CounterBlock;
     auto* const object = new (objects_ + sizeof(CounterBlock)) Class(block);
     object->beginAtOne();
     object->belongTo(*shares_);
     objects_ += room<Class>();
     ++given_;
-    return Ref<Class>::adopt(object);
+    return Handle<Class>::adopt(object);
   }
 
   SharedText put(std::string_view text) {

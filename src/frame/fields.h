@@ -8,7 +8,7 @@
 
 #include <utility>
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/shared_text.h"
 
 namespace ZOL {
@@ -57,15 +57,15 @@ class Kept {
  public:
   Interface* get() const { return object_.get(); }
   int set(Interface* object) {
-    object_ = Ref<Interface>::share(object);
+    object_ = Handle<Interface>::share(object);
     return kSuccess;
   }
-  void set(Ref<Interface> object) { object_ = std::move(object); }
+  void set(Handle<Interface> object) { object_ = std::move(object); }
   // The same for fields that refuse null.
   int setUnlessNull(Interface* object) { return object ? set(object) : kRefused; }
 
  private:
-  Ref<Interface> object_;
+  Handle<Interface> object_;
 };
 
 // A list of a record's own, made with it. It never changes hands: callers' lists are
@@ -85,10 +85,10 @@ class OwnedList {
     list_->assign(in);
     return kSuccess;
   }
-  void renew() { list_ = Ref<List>::adopt(create()); }
+  void renew() { list_ = Handle<List>::adopt(create()); }
 
  private:
-  Ref<List> list_ = Ref<List>::adopt(create());
+  Handle<List> list_ = Handle<List>::adopt(create());
 };
 
 }  // namespace ZOL

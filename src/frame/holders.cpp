@@ -4,7 +4,7 @@
 
 #include "frame/bytes.h"
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/zol_string.h"
 
 namespace ZOL {
@@ -60,6 +60,6 @@ class DataSizeBuffer final : public Counted<IDataSizeBuffer, RefCnt<void>> {
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IZolString* createZolString() { return ZOL::make<ZOL::ZolString>(); }
-ZOL::IZolPChar* createZolPChar() { return ZOL::make<ZOL::ZolPChar>(); }
-ZOL::IDataSizeBuffer* createDataSizeBuffer() { return ZOL::make<ZOL::DataSizeBuffer>(); }
+ZOL::IZolString* createZolString() { return ZOL::makeObject<ZOL::ZolString>(); }
+ZOL::IZolPChar* createZolPChar() { return ZOL::makeObject<ZOL::ZolPChar>(); }
+ZOL::IDataSizeBuffer* createDataSizeBuffer() { return ZOL::makeObject<ZOL::DataSizeBuffer>(); }

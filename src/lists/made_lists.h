@@ -1,6 +1,6 @@
 // The classes of lists, for the rooms that make and fill lists themselves.
 //
-//   auto rows = makeRef<ObjectList<IZolStoryboardInfoList>>();
+//   auto rows = makeHandle<ObjectList<IZolStoryboardInfoList>>();
 //   rows->elements().reserve(count);
 //   rows->elements().push_back(std::move(row));   hands the reference over
 

@@ -4,7 +4,7 @@
 
 #include <KyDataStructure/KyDataStructure.h>
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "lists/list.h"
 #include "lists/made_lists.h"
 #include "lists/stores.h"
@@ -54,73 +54,85 @@ using _IGpuInfoList = ObjectList<IGpuInfoList>;
 }  // namespace
 }  // namespace ZOL
 
-ZOL::ZOLPCharList* createZOLPCharList() { return ZOL::make<ZOL::_ZOLPCharList>(); }
+ZOL::ZOLPCharList* createZOLPCharList() { return ZOL::makeObject<ZOL::_ZOLPCharList>(); }
 ZOL::ZOLAutoVoidPtrList* createZOLAutoVoidPtrList() {
-  return ZOL::make<ZOL::_ZOLAutoVoidPtrList>();
+  return ZOL::makeObject<ZOL::_ZOLAutoVoidPtrList>();
 }
-ZOL::ZOLBaseObjectList* createZOLBaseObjectList() { return ZOL::make<ZOL::_ZOLBaseObjectList>(); }
+ZOL::ZOLBaseObjectList* createZOLBaseObjectList() {
+  return ZOL::makeObject<ZOL::_ZOLBaseObjectList>();
+}
 ZOL::IKyMaskInfoDataList* createIKyMaskInfoDataList() {
-  return ZOL::make<ZOL::_IKyMaskInfoDataList>();
+  return ZOL::makeObject<ZOL::_IKyMaskInfoDataList>();
 }
-ZOL::IZolBGRDataList* createIZolBGRDataList() { return ZOL::make<ZOL::_IZolBGRDataList>(); }
-ZOL::IZolBGRADataList* createIZolBGRADataList() { return ZOL::make<ZOL::_IZolBGRADataList>(); }
-ZOL::IZoEffectInfoList* createIZoEffectInfoList() { return ZOL::make<ZOL::_IZoEffectInfoList>(); }
+ZOL::IZolBGRDataList* createIZolBGRDataList() { return ZOL::makeObject<ZOL::_IZolBGRDataList>(); }
+ZOL::IZolBGRADataList* createIZolBGRADataList() {
+  return ZOL::makeObject<ZOL::_IZolBGRADataList>();
+}
+ZOL::IZoEffectInfoList* createIZoEffectInfoList() {
+  return ZOL::makeObject<ZOL::_IZoEffectInfoList>();
+}
 ZOL::IZolPluginInfoList* createIZolPluginInfoList() {
-  return ZOL::make<ZOL::_IZolPluginInfoList>();
+  return ZOL::makeObject<ZOL::_IZolPluginInfoList>();
 }
 ZOL::IFaceClusterInfoList* createIFaceClusterInfoList() {
-  return ZOL::make<ZOL::_IFaceClusterInfoList>();
+  return ZOL::makeObject<ZOL::_IFaceClusterInfoList>();
 }
 ZOL::IKyLoraTextToImageHistoryInfoList* createIKyLoraTextToImageHistoryInfoList() {
-  return ZOL::make<ZOL::_IKyLoraTextToImageHistoryInfoList>();
+  return ZOL::makeObject<ZOL::_IKyLoraTextToImageHistoryInfoList>();
 }
 ZOL::IKyVoiceDataInfoList* createIKyVoiceDataInfoList() {
-  return ZOL::make<ZOL::_IKyVoiceDataInfoList>();
+  return ZOL::makeObject<ZOL::_IKyVoiceDataInfoList>();
 }
 ZOL::IKyScriptSceneInfoList* createIKyScriptSceneInfoList() {
-  return ZOL::make<ZOL::_IKyScriptSceneInfoList>();
+  return ZOL::makeObject<ZOL::_IKyScriptSceneInfoList>();
 }
 ZOL::IKyScriptCharacterInfoList* createIKyScriptCharacterInfoList() {
-  return ZOL::make<ZOL::_IKyScriptCharacterInfoList>();
+  return ZOL::makeObject<ZOL::_IKyScriptCharacterInfoList>();
 }
 ZOL::IKyScriptEventSoundInfoList* createIKyScriptEventSoundInfoList() {
-  return ZOL::make<ZOL::_IKyScriptEventSoundInfoList>();
+  return ZOL::makeObject<ZOL::_IKyScriptEventSoundInfoList>();
 }
 ZOL::IKyScriptCharactersIfInfoList* createIKyScriptCharactersIfInfoList() {
-  return ZOL::make<ZOL::_IKyScriptCharactersIfInfoList>();
+  return ZOL::makeObject<ZOL::_IKyScriptCharactersIfInfoList>();
 }
 ZOL::IKyScriptClipInfoList* createIKyScriptClipInfoList() {
-  return ZOL::make<ZOL::_IKyScriptClipInfoList>();
+  return ZOL::makeObject<ZOL::_IKyScriptClipInfoList>();
 }
 ZOL::IZolResSerializeInfoList* createIZolResSerializeInfoList() {
-  return ZOL::make<ZOL::_IZolResSerializeInfoList>();
+  return ZOL::makeObject<ZOL::_IZolResSerializeInfoList>();
 }
-ZOL::IZolSliceItemList* createIZolSliceItemList() { return ZOL::make<ZOL::_IZolSliceItemList>(); }
+ZOL::IZolSliceItemList* createIZolSliceItemList() {
+  return ZOL::makeObject<ZOL::_IZolSliceItemList>();
+}
 ZOL::IZolDemensionsItemList* createIZolDemensionsItemList() {
-  return ZOL::make<ZOL::_IZolDemensionsItemList>();
+  return ZOL::makeObject<ZOL::_IZolDemensionsItemList>();
 }
 ZOL::IZolKeyMatrixInfoList* createIZolKeyMatrixInfoList() {
-  return ZOL::make<ZOL::_IZolKeyMatrixInfoList>();
+  return ZOL::makeObject<ZOL::_IZolKeyMatrixInfoList>();
 }
-ZOL::IZolTextInfoList* createIZolTextInfoList() { return ZOL::make<ZOL::_IZolTextInfoList>(); }
+ZOL::IZolTextInfoList* createIZolTextInfoList() {
+  return ZOL::makeObject<ZOL::_IZolTextInfoList>();
+}
 ZOL::IZolHighlightInfoList* createIZolHighlightInfoList() {
-  return ZOL::make<ZOL::_IZolHighlightInfoList>();
+  return ZOL::makeObject<ZOL::_IZolHighlightInfoList>();
 }
 ZOL::IZolSmartCutClipInfoList* createIZolSmartCutClipInfoList() {
-  return ZOL::make<ZOL::_IZolSmartCutClipInfoList>();
+  return ZOL::makeObject<ZOL::_IZolSmartCutClipInfoList>();
 }
-ZOL::IZolMusicInfoList* createIZolMusicInfoList() { return ZOL::make<ZOL::_IZolMusicInfoList>(); }
+ZOL::IZolMusicInfoList* createIZolMusicInfoList() {
+  return ZOL::makeObject<ZOL::_IZolMusicInfoList>();
+}
 ZOL::IZolStoryboardInfoList* createIZolStoryboardInfoList() {
-  return ZOL::make<ZOL::_IZolStoryboardInfoList>();
+  return ZOL::makeObject<ZOL::_IZolStoryboardInfoList>();
 }
 ZOL::IZolSmartCutSearchResultList* createIZolSmartCutSearchResultList() {
-  return ZOL::make<ZOL::_IZolSmartCutSearchResultList>();
+  return ZOL::makeObject<ZOL::_IZolSmartCutSearchResultList>();
 }
 ZOL::IZolSmartCutSearchDimensionsResultItemList*
 createIZolSmartCutSearchDimensionsResultItemList() {
-  return ZOL::make<ZOL::_IZolSmartCutSearchDimensionsResultItemList>();
+  return ZOL::makeObject<ZOL::_IZolSmartCutSearchDimensionsResultItemList>();
 }
 ZOL::IZolRoleSearchItemInfoList* createIZolRoleSearchItemInfoList() {
-  return ZOL::make<ZOL::_IZolRoleSearchItemInfoList>();
+  return ZOL::makeObject<ZOL::_IZolRoleSearchItemInfoList>();
 }
-ZOL::IGpuInfoList* createIGpuInfoList() { return ZOL::make<ZOL::_IGpuInfoList>(); }
+ZOL::IGpuInfoList* createIGpuInfoList() { return ZOL::makeObject<ZOL::_IGpuInfoList>(); }

@@ -2,7 +2,7 @@
 
 #include <KyDataStructure/lists.h>
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "lists/list.h"
 #include "lists/stores.h"
 
@@ -25,19 +25,23 @@ using _KeyFrameValueList = List<KeyFrameValueList, ZOLTemplateList<KeyFrameValue
 }  // namespace
 }  // namespace ZOL
 
-ZOL::ZOLPointNList* createZOLPointNList() { return ZOL::make<ZOL::_ZOLPointNList>(); }
-ZOL::ZOLSizeNList* createZOLSizeNList() { return ZOL::make<ZOL::_ZOLSizeNList>(); }
-ZOL::GradientColorList* createGradientColorList() { return ZOL::make<ZOL::_GradientColorList>(); }
-ZOL::ZOLPointFList* createZOLPointFList() { return ZOL::make<ZOL::_ZOLPointFList>(); }
-ZOL::ZOLRectNList* createZOLRectNList() { return ZOL::make<ZOL::_ZOLRectNList>(); }
-ZOL::ZOLRangeList* createZOLRangeList() { return ZOL::make<ZOL::_ZOLRangeList>(); }
+ZOL::ZOLPointNList* createZOLPointNList() { return ZOL::makeObject<ZOL::_ZOLPointNList>(); }
+ZOL::ZOLSizeNList* createZOLSizeNList() { return ZOL::makeObject<ZOL::_ZOLSizeNList>(); }
+ZOL::GradientColorList* createGradientColorList() {
+  return ZOL::makeObject<ZOL::_GradientColorList>();
+}
+ZOL::ZOLPointFList* createZOLPointFList() { return ZOL::makeObject<ZOL::_ZOLPointFList>(); }
+ZOL::ZOLRectNList* createZOLRectNList() { return ZOL::makeObject<ZOL::_ZOLRectNList>(); }
+ZOL::ZOLRangeList* createZOLRangeList() { return ZOL::makeObject<ZOL::_ZOLRangeList>(); }
 ZOL::BkMarkInOutSectionList* createBkMarkInOutSectionList() {
-  return ZOL::make<ZOL::_BkMarkInOutSectionList>();
+  return ZOL::makeObject<ZOL::_BkMarkInOutSectionList>();
 }
-ZOL::ZOLRectFList* createZOLRectFList() { return ZOL::make<ZOL::_ZOLRectFList>(); }
+ZOL::ZOLRectFList* createZOLRectFList() { return ZOL::makeObject<ZOL::_ZOLRectFList>(); }
 ZOL::RenderSegmentInfoList* createRenderSegmentInfoList() {
-  return ZOL::make<ZOL::_RenderSegmentInfoList>();
+  return ZOL::makeObject<ZOL::_RenderSegmentInfoList>();
 }
-ZOL::ZOLPolygonFList* createZOLPolygonFList() { return ZOL::make<ZOL::_ZOLPolygonFList>(); }
-ZOL::PropertyList* createPropertyList() { return ZOL::make<ZOL::_PropertyList>(); }
-ZOL::KeyFrameValueList* createKeyFrameValueList() { return ZOL::make<ZOL::_KeyFrameValueList>(); }
+ZOL::ZOLPolygonFList* createZOLPolygonFList() { return ZOL::makeObject<ZOL::_ZOLPolygonFList>(); }
+ZOL::PropertyList* createPropertyList() { return ZOL::makeObject<ZOL::_PropertyList>(); }
+ZOL::KeyFrameValueList* createKeyFrameValueList() {
+  return ZOL::makeObject<ZOL::_KeyFrameValueList>();
+}

@@ -18,7 +18,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 
@@ -37,7 +37,7 @@ class ZOLTemplateList {
 template <class Interface>
 class ZOLObjectTemplateList {
  public:
-  using Item = Ref<Interface>;
+  using Item = Handle<Interface>;
   static Item take(Interface* element) { return Item::share(element); }
   static Interface* lend(const Item& item) { return item.get(); }
 

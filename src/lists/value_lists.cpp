@@ -2,7 +2,7 @@
 
 #include <KyDataStructure/lists.h>
 
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "lists/list.h"
 #include "lists/made_lists.h"
 #include "lists/stores.h"
@@ -28,13 +28,15 @@ using _ZolValueList = ValueList<ZolValueList>;
 }  // namespace
 }  // namespace ZOL
 
-ZOL::ZOLIntList* createZOLIntList() { return ZOL::make<ZOL::_ZOLIntList>(); }
-ZOL::ZOLBoolList* createZOLBoolList() { return ZOL::make<ZOL::_ZOLBoolList>(); }
-ZOL::ZOLFLOATList* createZOLFLOATList() { return ZOL::make<ZOL::_ZOLFLOATList>(); }
-ZOL::ZOLREALList* createZOLREALList() { return ZOL::make<ZOL::_ZOLREALList>(); }
-ZOL::ZOLLonglongList* createZOLLonglongList() { return ZOL::make<ZOL::_ZOLLonglongList>(); }
-ZOL::ZOLULonglongList* createZOLULonglongList() { return ZOL::make<ZOL::_ZOLULonglongList>(); }
-ZOL::ZOLIntPtrList* createZOLIntPtrList() { return ZOL::make<ZOL::_ZOLIntPtrList>(); }
-ZOL::ZOLVoidPtrList* createZOLVoidPtrList() { return ZOL::make<ZOL::_ZOLVoidPtrList>(); }
-ZOL::ZOLPByteList* createZOLPByteList() { return ZOL::make<ZOL::_ZOLPByteList>(); }
-ZOL::ZolValueList* createZolValueList() { return ZOL::make<ZOL::_ZolValueList>(); }
+ZOL::ZOLIntList* createZOLIntList() { return ZOL::makeObject<ZOL::_ZOLIntList>(); }
+ZOL::ZOLBoolList* createZOLBoolList() { return ZOL::makeObject<ZOL::_ZOLBoolList>(); }
+ZOL::ZOLFLOATList* createZOLFLOATList() { return ZOL::makeObject<ZOL::_ZOLFLOATList>(); }
+ZOL::ZOLREALList* createZOLREALList() { return ZOL::makeObject<ZOL::_ZOLREALList>(); }
+ZOL::ZOLLonglongList* createZOLLonglongList() { return ZOL::makeObject<ZOL::_ZOLLonglongList>(); }
+ZOL::ZOLULonglongList* createZOLULonglongList() {
+  return ZOL::makeObject<ZOL::_ZOLULonglongList>();
+}
+ZOL::ZOLIntPtrList* createZOLIntPtrList() { return ZOL::makeObject<ZOL::_ZOLIntPtrList>(); }
+ZOL::ZOLVoidPtrList* createZOLVoidPtrList() { return ZOL::makeObject<ZOL::_ZOLVoidPtrList>(); }
+ZOL::ZOLPByteList* createZOLPByteList() { return ZOL::makeObject<ZOL::_ZOLPByteList>(); }
+ZOL::ZolValueList* createZolValueList() { return ZOL::makeObject<ZOL::_ZolValueList>(); }

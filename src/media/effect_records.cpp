@@ -4,7 +4,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -116,6 +116,6 @@ class ZolPanZoomPair final : public Counted<IZolPanZoomPair, RefCnt<void>> {
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IZoEffectInfo* createEffectInfo() { return ZOL::make<ZOL::ZoEffectInfo>(); }
-ZOL::IZolPluginInfo* createPluginInfo() { return ZOL::make<ZOL::ZolPluginInfo>(); }
-ZOL::IZolPanZoomPair* createPanZoomPair() { return ZOL::make<ZOL::ZolPanZoomPair>(); }
+ZOL::IZoEffectInfo* createEffectInfo() { return ZOL::makeObject<ZOL::ZoEffectInfo>(); }
+ZOL::IZolPluginInfo* createPluginInfo() { return ZOL::makeObject<ZOL::ZolPluginInfo>(); }
+ZOL::IZolPanZoomPair* createPanZoomPair() { return ZOL::makeObject<ZOL::ZolPanZoomPair>(); }

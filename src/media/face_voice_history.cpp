@@ -4,7 +4,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -39,7 +39,7 @@ class FaceClusterInfo final : public Counted<IFaceClusterInfo, RefCnt<void>> {
   Plain<long long> clusterNumber1_{-1};
   Plain<long long> clusterNumber2_{-1};
   Plain<_RectF> clusterRect_{_RectF{0.0, 0.0, 1.0, 1.0}};
-  Ref<IZolMediaData> clusterMedia_ = Ref<IZolMediaData>::adopt(createEmptyMediaData());
+  Handle<IZolMediaData> clusterMedia_ = Handle<IZolMediaData>::adopt(createEmptyMediaData());
 };
 
 class KyVoiceDataInfo final : public Counted<IKyVoiceDataInfo, RefCnt<void>> {
@@ -142,8 +142,8 @@ class KyLoraTextToImageHistoryInfo final
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IFaceClusterInfo* createFaceClusterInfo() { return ZOL::make<ZOL::FaceClusterInfo>(); }
-ZOL::IKyVoiceDataInfo* createVoiceDataInfo() { return ZOL::make<ZOL::KyVoiceDataInfo>(); }
+ZOL::IFaceClusterInfo* createFaceClusterInfo() { return ZOL::makeObject<ZOL::FaceClusterInfo>(); }
+ZOL::IKyVoiceDataInfo* createVoiceDataInfo() { return ZOL::makeObject<ZOL::KyVoiceDataInfo>(); }
 ZOL::IKyLoraTextToImageHistoryInfo* createLoraTextToImageHistoryInfo() {
-  return ZOL::make<ZOL::KyLoraTextToImageHistoryInfo>();
+  return ZOL::makeObject<ZOL::KyLoraTextToImageHistoryInfo>();
 }

@@ -4,7 +4,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -28,4 +28,4 @@ class KyMaskInfoData final : public Counted<RefCnt<void>, Virtually<IKyMaskInfoD
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IKyMaskInfoData* createMaskInfoData() { return ZOL::make<ZOL::KyMaskInfoData>(); }
+ZOL::IKyMaskInfoData* createMaskInfoData() { return ZOL::makeObject<ZOL::KyMaskInfoData>(); }

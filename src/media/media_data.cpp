@@ -6,7 +6,7 @@
 
 #include "frame/bytes.h"
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -83,7 +83,7 @@ class ZolBGRAData final : public ZolMediaData, public virtual IZolBGRAData {
 template <class Media>
 Media* makeFilled(unsigned int width, unsigned int height, const unsigned char* data, int size,
                   long long tag) {
-  Ref<Media> media = makeRef<Media>();
+  Handle<Media> media = makeHandle<Media>();
   media->fill(width, height, data, size, tag);
   return media.give();
 }
@@ -91,7 +91,7 @@ Media* makeFilled(unsigned int width, unsigned int height, const unsigned char* 
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IZolMediaData* createEmptyMediaData() { return ZOL::make<ZOL::ZolMediaData>(); }
+ZOL::IZolMediaData* createEmptyMediaData() { return ZOL::makeObject<ZOL::ZolMediaData>(); }
 
 ZOL::IZolMediaData* createMediaData(unsigned int width, unsigned int height,
                                     const unsigned char* data, int size, long long tag) {

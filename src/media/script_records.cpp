@@ -4,7 +4,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -256,14 +256,16 @@ class KyScriptSceneInfo final : public Counted<IKyScriptSceneInfo, RefCnt<void>>
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IKyScriptSceneInfo* createScriptSceneInfo() { return ZOL::make<ZOL::KyScriptSceneInfo>(); }
-ZOL::IKyScriptClipInfo* createScriptClipInfo() { return ZOL::make<ZOL::KyScriptClipInfo>(); }
+ZOL::IKyScriptSceneInfo* createScriptSceneInfo() {
+  return ZOL::makeObject<ZOL::KyScriptSceneInfo>();
+}
+ZOL::IKyScriptClipInfo* createScriptClipInfo() { return ZOL::makeObject<ZOL::KyScriptClipInfo>(); }
 ZOL::IKyScriptEventSoundInfo* createScriptEventSoundInfo() {
-  return ZOL::make<ZOL::KyScriptEventSoundInfo>();
+  return ZOL::makeObject<ZOL::KyScriptEventSoundInfo>();
 }
 ZOL::IKyScriptCharactersIfInfo* createScriptCharactersIfInfo() {
-  return ZOL::make<ZOL::KyScriptCharactersIfInfo>();
+  return ZOL::makeObject<ZOL::KyScriptCharactersIfInfo>();
 }
 ZOL::IKyScriptCharacterInfo* createScriptCharacterInfo() {
-  return ZOL::make<ZOL::KyScriptCharacterInfo>();
+  return ZOL::makeObject<ZOL::KyScriptCharacterInfo>();
 }

@@ -18,7 +18,7 @@ constexpr int kStylizeDescriptionId = 3;  // of image stylising
 // text that is no description is no matter.
 void deriveSlug(IParamObjectData& object, int id, const char* text) {
   if (id != kDescriptionId || *object.param(kSlugId) != '\0') return;
-  const auto info = Ref<IZolResSerializeInfo>::adopt(createZolResSerializeInfoFromBuffer(text));
+  const auto info = Handle<IZolResSerializeInfo>::adopt(createZolResSerializeInfoFromBuffer(text));
   _Property slug{};
   if (info && info->getProperty(resSerializeInfoPropKey::rsResSlug, &slug) == kSuccess) {
     object.setParam(kSlugId, slug.value);
@@ -92,7 +92,7 @@ class ImageStylizesData final : public RelinkEffectData, public virtual IImageSt
   int clearParams() override { return emptyParams(1, 4); }
 
   int resourceType() override {
-    const auto info = Ref<IZolResSerializeInfo>::adopt(
+    const auto info = Handle<IZolResSerializeInfo>::adopt(
         createZolResSerializeInfoFromBuffer(param(kStylizeDescriptionId)));
     _Property type{};
     if (!info || info->getProperty(resSerializeInfoPropKey::rsResType, &type) != kSuccess) {
@@ -109,13 +109,21 @@ class ImageStylizesData final : public RelinkEffectData, public virtual IImageSt
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IRelinkEffectData* createRelinkEffectData() { return ZOL::make<ZOL::RelinkEffectData>(); }
-ZOL::IResourceMediaData* createResourceMediaData() { return ZOL::make<ZOL::ResourceMediaData>(); }
-ZOL::IAiPortraitV2Data* createIAiPortraitV2Data() { return ZOL::make<ZOL::AiPortraitV2Data>(); }
+ZOL::IRelinkEffectData* createRelinkEffectData() {
+  return ZOL::makeObject<ZOL::RelinkEffectData>();
+}
+ZOL::IResourceMediaData* createResourceMediaData() {
+  return ZOL::makeObject<ZOL::ResourceMediaData>();
+}
+ZOL::IAiPortraitV2Data* createIAiPortraitV2Data() {
+  return ZOL::makeObject<ZOL::AiPortraitV2Data>();
+}
 ZOL::IRemoveBackgroundData* createRemoveBackgroundData() {
-  return ZOL::make<ZOL::RemoveBackgroundData>();
+  return ZOL::makeObject<ZOL::RemoveBackgroundData>();
 }
 ZOL::IAITemplateGenerateData* createAITemplateGenerateData() {
-  return ZOL::make<ZOL::AITemplateGenerateData>();
+  return ZOL::makeObject<ZOL::AITemplateGenerateData>();
 }
-ZOL::IImageStylizesData* createImageStylizesData() { return ZOL::make<ZOL::ImageStylizesData>(); }
+ZOL::IImageStylizesData* createImageStylizesData() {
+  return ZOL::makeObject<ZOL::ImageStylizesData>();
+}

@@ -9,7 +9,7 @@
 #include <string>
 
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 
@@ -28,7 +28,7 @@ class ParamObjectData : public Counted<RefCnt<void>, Virtually<IParamObjectData>
   // A new object of that class with the same parameters, owned.
   template <class Class>
   IParamObjectData* cloneAs() {
-    Ref<Class> clone = makeRef<Class>();
+    Handle<Class> clone = makeHandle<Class>();
     clone->copyFrom(this);
     return clone.give();
   }

@@ -7,7 +7,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -52,4 +52,4 @@ class ZolParam final : public Counted<IZolParam, RefCnt<void>, IZolParamInternal
 }  // namespace
 }  // namespace ZOL
 
-ZOL::IZolParam* createZolParam() { return ZOL::make<ZOL::ZolParam>(); }
+ZOL::IZolParam* createZolParam() { return ZOL::makeObject<ZOL::ZolParam>(); }

@@ -15,9 +15,9 @@ namespace {
 template <class Reader>
 IZolResSerializeInfo* fromText(const char* text, Reader read) {
   if (!text || *text == '\0') return nullptr;
-  const Ref<ZolString> string = makeRef<ZolString>();
+  const Handle<ZolString> string = makeHandle<ZolString>();
   string->setText(text, -1);
-  Ref<ZolResSerializeInfo> info = makeRef<ZolResSerializeInfo>();
+  Handle<ZolResSerializeInfo> info = makeHandle<ZolResSerializeInfo>();
   return read(*info.get(), string.get()) == kSuccess ? info.give() : nullptr;
 }
 
@@ -25,7 +25,7 @@ IZolResSerializeInfo* fromText(const char* text, Reader read) {
 }  // namespace ZOL
 
 ZOL::IZolResSerializeInfo* createZolResSerializeInfo() {
-  return ZOL::make<ZOL::ZolResSerializeInfo>();
+  return ZOL::makeObject<ZOL::ZolResSerializeInfo>();
 }
 
 ZOL::IZolResSerializeInfo* createZolResSerializeInfoFromBuffer(const char* text) {
@@ -46,7 +46,7 @@ int resInfoStr2SerializeList(ZOL::ZOLPCharList* texts, ZOL::IZolResSerializeInfo
   std::unordered_set<std::string> keys;
   keys.reserve(static_cast<std::size_t>(texts->size()));
   for (long long i = 0; i < texts->size(); ++i) {
-    const auto info = ZOL::Ref<ZOL::IZolResSerializeInfo>::adopt(
+    const auto info = ZOL::Handle<ZOL::IZolResSerializeInfo>::adopt(
         createZolResSerializeInfoFromBuffer(texts->at(i)));
     if (info && keys.insert(info->uniqueKey()).second) out->add(info.get());
   }

@@ -83,7 +83,7 @@ void ZolResSerializeInfo::readRelatedRes(Value list) {
     const char* const slug = element.member(resPropTable[kResSlug].key).text();
     const long long type = element.member(resPropTable[kResType].key).integer64().value_or(kNoType);
     if (!slug || *slug == '\0' || type == kNoType) continue;
-    Ref<ZolResSerializeInfo> entry = makeRef<ZolResSerializeInfo>();
+    Handle<ZolResSerializeInfo> entry = makeHandle<ZolResSerializeInfo>();
     entry->intProps_.set(kResInfoType, kSingleInfoType);
     entry->intProps_.set(kResType, type);
     entry->stringProps_.set(kResSlug, slug);

@@ -86,7 +86,7 @@ int ZolResSerializeInfo::setProperty(const char* key, const _Property* value) {
 // Through text: what `other` writes is read on top of what is here.
 int ZolResSerializeInfo::copyFrom(IZolResSerializeInfo* other) {
   if (!other) return kRefused;
-  const Ref<ZolString> text = makeRef<ZolString>();
+  const Handle<ZolString> text = makeHandle<ZolString>();
   if (other->toBuffer(text.get()) != kSuccess) return kRefused;
   return setFromBuffer(text.get());
 }
@@ -141,7 +141,7 @@ int ZolResSerializeInfo::mergeFrom(IZolResSerializeInfo* other) {
   }
   std::unordered_set<const ZolResSerializeInfo*> held;
   for (const auto& entry : relatedRes_) held.insert(entry.get());
-  const std::vector<Ref<ZolResSerializeInfo>> others = source->relatedRes_;
+  const std::vector<Handle<ZolResSerializeInfo>> others = source->relatedRes_;
   for (const auto& entry : others) {
     if (held.insert(entry.get()).second) relatedRes_.push_back(entry);
   }
@@ -223,7 +223,7 @@ ZolResSerializeInfo::UserStrings ZolResSerializeInfo::userStringsOf(IZolResSeria
 
 int ZolResSerializeInfo::addRelatedRes(IZolResSerializeInfo* info) {
   if (!mayBeRelated(info)) return kRefused;
-  Ref<ZolResSerializeInfo> entry = makeRef<ZolResSerializeInfo>();
+  Handle<ZolResSerializeInfo> entry = makeHandle<ZolResSerializeInfo>();
   if (entry->copyFrom(info) != kSuccess) return kRefused;
   const Lock lock(stateMutex_);
   relatedRes_.push_back(std::move(entry));
@@ -232,7 +232,7 @@ int ZolResSerializeInfo::addRelatedRes(IZolResSerializeInfo* info) {
 }
 
 int ZolResSerializeInfo::removeRelatedRes(IZolResSerializeInfo* info) {
-  std::vector<Ref<ZolResSerializeInfo>> gone;  // given back when the lock is let go
+  std::vector<Handle<ZolResSerializeInfo>> gone;  // given back when the lock is let go
   if (!info) {
     const Lock lock(stateMutex_);
     gone.swap(relatedRes_);
@@ -244,7 +244,7 @@ int ZolResSerializeInfo::removeRelatedRes(IZolResSerializeInfo* info) {
   const UserStrings texts = userStringsOf(info);
   const Lock lock(stateMutex_);
   // On purpose the slugs are not compared.
-  const auto sameUserStrings = [&texts](const Ref<ZolResSerializeInfo>& entry) {
+  const auto sameUserStrings = [&texts](const Handle<ZolResSerializeInfo>& entry) {
     for (std::size_t row = 0; row < texts.size(); ++row) {
       if (texts[row] != entry->userString(userStringTable[row].key.data())) return false;
     }
@@ -252,7 +252,7 @@ int ZolResSerializeInfo::removeRelatedRes(IZolResSerializeInfo* info) {
   };
   const auto staying = std::stable_partition(
       relatedRes_.begin(), relatedRes_.end(),
-      [&](const Ref<ZolResSerializeInfo>& entry) { return !sameUserStrings(entry); });
+      [&](const Handle<ZolResSerializeInfo>& entry) { return !sameUserStrings(entry); });
   gone.assign(std::make_move_iterator(staying), std::make_move_iterator(relatedRes_.end()));
   relatedRes_.erase(staying, relatedRes_.end());
   hasRelatedRes_ = !relatedRes_.empty();
@@ -263,7 +263,7 @@ int ZolResSerializeInfo::relatedResList(IZolResSerializeInfoList* out) {
   if (!out) return kRefused;
   const Lock lock(stateMutex_);
   for (const auto& entry : relatedRes_) {
-    const Ref<ZolResSerializeInfo> copy = makeRef<ZolResSerializeInfo>();
+    const Handle<ZolResSerializeInfo> copy = makeHandle<ZolResSerializeInfo>();
     if (copy->copyFrom(entry.get()) != kSuccess) return kRefused;
     out->add(copy.get());
   }

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "json/document.h"
 #include "resource/property_bag.h"
 #include "resource/property_tables.h"
@@ -115,7 +115,7 @@ class ZolResSerializeInfo final
   std::string sourceText_;  // the normal-form text that was last accepted, byte for byte
   std::recursive_mutex stateMutex_;
   std::atomic<std::uintptr_t> hostWord_{0};
-  std::vector<Ref<ZolResSerializeInfo>> relatedRes_;
+  std::vector<Handle<ZolResSerializeInfo>> relatedRes_;
   std::atomic<bool> hasRelatedRes_{false};  // for isEmpty(), which takes no lock
   TextSlots<userStringTable.size()> userStrings_;
   std::string uniqueKeyCache_;

@@ -7,7 +7,7 @@
 
 #include "frame/counted.h"
 #include "frame/fields.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -119,14 +119,14 @@ class ZolSmartCutSearchResult final
 }  // namespace ZOL
 
 ZOL::IZolRoleSearchItemInfo* createRoleSearchItemInfo() {
-  return ZOL::make<ZOL::ZolRoleSearchItemInfo>();
+  return ZOL::makeObject<ZOL::ZolRoleSearchItemInfo>();
 }
 ZOL::IZolSmartCutSearchDimensionsResultItem* createSmartCutSearchDimensionsResultItem() {
-  return ZOL::make<ZOL::ZolSmartCutSearchDimensionsResultItem>();
+  return ZOL::makeObject<ZOL::ZolSmartCutSearchDimensionsResultItem>();
 }
 ZOL::IZolSmartCutSearchDimensionsResult* createSmartCutSearchDimensionsResult() {
-  return ZOL::make<ZOL::ZolSmartCutSearchDimensionsResult>();
+  return ZOL::makeObject<ZOL::ZolSmartCutSearchDimensionsResult>();
 }
 ZOL::IZolSmartCutSearchResult* createSmartCutSearchResult() {
-  return ZOL::make<ZOL::ZolSmartCutSearchResult>();
+  return ZOL::makeObject<ZOL::ZolSmartCutSearchResult>();
 }

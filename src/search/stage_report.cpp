@@ -5,7 +5,7 @@
 #include <string>
 
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 
 namespace ZOL {
 namespace {
@@ -49,6 +49,6 @@ class ZolStageReportData final : public Counted<IZolStageReportData, RefCnt<void
 ZOL::IZolStageReportData* createStageReportData(int stageType, const char* stageName,
                                                 int stageStatus, int stageCode,
                                                 const char* stageMessage, const char* stageDetail) {
-  return ZOL::make<ZOL::ZolStageReportData>(stageType, stageName, stageStatus, stageCode,
-                                            stageMessage, stageDetail);
+  return ZOL::makeObject<ZOL::ZolStageReportData>(stageType, stageName, stageStatus, stageCode,
+                                                  stageMessage, stageDetail);
 }

@@ -15,7 +15,7 @@
 namespace {
 
 using ZOL::Batch;
-using ZOL::Ref;
+using ZOL::Handle;
 using ZOL::SharedText;
 
 class ICue : public ZOL::IDmBaseObj {
@@ -57,8 +57,8 @@ TEST(Batch, HoldsObjectsAndTextsInOneBlock) {
   const long long before = liveBlocks();
   {
     Batch batch(2 * Batch::room<Cue>() + SharedText::room("harbour"));
-    const Ref<Cue> first = batch.make<Cue>();
-    const Ref<Cue> second = batch.make<Cue>();
+    const Handle<Cue> first = batch.make<Cue>();
+    const Handle<Cue> second = batch.make<Cue>();
     first->setName(batch.put("harbour"));
     EXPECT_EQ(liveBlocks(), before + 1);
     EXPECT_STREQ(first->name(), "harbour");
@@ -71,7 +71,7 @@ TEST(Batch, HoldsObjectsAndTextsInOneBlock) {
 
 TEST(Batch, LivesAsLongAsAnyOfItsObjects) {
   const long long before = liveBlocks();
-  Ref<Cue> kept;
+  Handle<Cue> kept;
   {
     Batch batch(8 * Batch::room<Cue>());
     for (int i = 0; i < 4; ++i) batch.make<Cue>();
@@ -105,15 +105,15 @@ TEST(Batch, LivesAsLongAsAnyOfItsTexts) {
 TEST(Batch, RunsTheHookOfItsObjectsOnce) {
   CountingHook hook;
   Batch batch(Batch::room<Cue>());
-  const Ref<Cue> cue = batch.make<Cue>();
+  const Handle<Cue> cue = batch.make<Cue>();
   cue->setReleaseHook(&hook);
   cue->addRef();
   cue->release();
   EXPECT_EQ(hook.calls, 0);
-  Ref<Cue> last = cue;
+  Handle<Cue> last = cue;
   last = nullptr;
   EXPECT_EQ(hook.calls, 0);
-  const_cast<Ref<Cue>&>(cue) = nullptr;
+  const_cast<Handle<Cue>&>(cue) = nullptr;
   EXPECT_EQ(hook.calls, 1);
 }
 
@@ -121,9 +121,9 @@ TEST(Batch, GivesWhatFindsNoRoomMemoryOfItsOwn) {
   const long long before = liveBlocks();
   {
     Batch batch(Batch::room<Cue>());
-    const Ref<Cue> inside = batch.make<Cue>();
+    const Handle<Cue> inside = batch.make<Cue>();
     const long long held = liveBlocks();
-    const Ref<Cue> outside = batch.make<Cue>();
+    const Handle<Cue> outside = batch.make<Cue>();
     EXPECT_EQ(liveBlocks(), held + 2) << "an object and its counter block";
     const SharedText text = batch.put("harbour");
     EXPECT_EQ(liveBlocks(), held + 3);
@@ -141,7 +141,7 @@ TEST(Batch, HasAGreatestSize) {
   const SharedText text = batch.put(longText);
   EXPECT_EQ(liveBlocks(), held + 1);
   EXPECT_EQ(text.get(), longText);
-  std::vector<Ref<Cue>> cues;
+  std::vector<Handle<Cue>> cues;
   for (std::size_t i = 0; i < 2 * Batch::kGreatest / Batch::room<Cue>(); ++i) {
     cues.push_back(batch.make<Cue>());
   }

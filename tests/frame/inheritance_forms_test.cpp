@@ -7,7 +7,7 @@
 #include <type_traits>
 
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/ref_cnt.h"
 #include "support/heap_watch.h"
 
@@ -240,7 +240,7 @@ struct MainInterface {
 TYPED_TEST_SUITE(InheritanceForm, Forms, MainInterface);
 
 TYPED_TEST(InheritanceForm, AnswersItsInterfacesByName) {
-  TypeParam* const object = ZOL::make<TypeParam>();
+  TypeParam* const object = ZOL::makeObject<TypeParam>();
   typename TypeParam::Main* const main = object;
   ZOL::IDmBaseObj* const root = object;
   EXPECT_EQ(ZOL::query<typename TypeParam::Main>(root), main);
@@ -256,7 +256,7 @@ TYPED_TEST(InheritanceForm, AnswersItsInterfacesByName) {
 }
 
 TYPED_TEST(InheritanceForm, AnswersAViewThatWorks) {
-  TypeParam* const object = ZOL::make<TypeParam>();
+  TypeParam* const object = ZOL::makeObject<TypeParam>();
   ZOL::IDmBaseObj* const root = object;
   EXPECT_EQ(ZOL::query<typename TypeParam::Main>(root)->number(), 42);
   if constexpr (TestFixture::kWritable) {
@@ -270,7 +270,7 @@ TYPED_TEST(InheritanceForm, AnswersAViewThatWorks) {
 }
 
 TYPED_TEST(InheritanceForm, CountsThroughEveryView) {
-  TypeParam* const object = ZOL::make<TypeParam>();
+  TypeParam* const object = ZOL::makeObject<TypeParam>();
   typename TypeParam::Main* const main = object;
   ZOL::IDmBaseObj* const root = object;
   ZOL::RefCnt<void>* const mixin = object;
@@ -287,7 +287,7 @@ TYPED_TEST(InheritanceForm, CountsThroughEveryView) {
 
 TYPED_TEST(InheritanceForm, EndsOnceWithTheHookAheadOfItsDestructor) {
   const long long before = liveBlocks();
-  TypeParam* const object = ZOL::make<TypeParam>();
+  TypeParam* const object = ZOL::makeObject<TypeParam>();
   Witness<typename TypeParam::Main> witness(object);
   ZOL::IDmBaseObj* const root = object;
   root->setReleaseHook(&witness);
@@ -299,7 +299,7 @@ TYPED_TEST(InheritanceForm, EndsOnceWithTheHookAheadOfItsDestructor) {
 }
 
 TEST(WideForm, SharesOneInterfaceObjectWithItsBase) {
-  auto* const object = ZOL::make<WideVirtualInterface>();
+  auto* const object = ZOL::makeObject<WideVirtualInterface>();
   IWide* const wide = object;
   IRooted* const throughWide = wide;
   IRooted* const throughBase = static_cast<VirtualInterface*>(object);

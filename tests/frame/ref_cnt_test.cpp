@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "frame/counted.h"
-#include "frame/ref.h"
+#include "frame/handle.h"
 #include "frame/ref_cnt.h"
 #include "support/counted_note.h"
 #include "support/heap_watch.h"
@@ -77,7 +77,7 @@ TEST_F(RefCnt, OfANewObjectStandsAtMinusOne) {
 }
 
 TEST_F(RefCnt, MadeByAFactoryStandsAtOne) {
-  Thing* const thing = ZOL::make<Thing>(&diary);
+  Thing* const thing = ZOL::makeObject<Thing>(&diary);
   EXPECT_EQ(thing->refCount(), 1);
   EXPECT_EQ(thing->release(), 0);
 }
@@ -99,7 +99,7 @@ TEST_F(RefCnt, TheHookOfAnObjectThatNeverHadAReferenceRunsToo) {
 }
 
 TEST_F(RefCnt, TheHookRunsOnceWhileTheObjectIsWhole) {
-  Thing* const thing = ZOL::make<Thing>(&diary);
+  Thing* const thing = ZOL::makeObject<Thing>(&diary);
   Witness witness(thing, &diary);
   thing->setReleaseHook(&witness);
   thing->addRef();
@@ -127,7 +127,7 @@ TEST_F(RefCnt, OfADeadObjectCannotBeRaisedNorLowered) {
    private:
     IThing* const thing_;
   };
-  Thing* const thing = ZOL::make<Thing>(&diary);
+  Thing* const thing = ZOL::makeObject<Thing>(&diary);
   Reviver reviver(thing);
   thing->setReleaseHook(&reviver);
   EXPECT_EQ(thing->release(), 0);
@@ -145,12 +145,12 @@ TEST_F(RefCnt, ReleaseFromTheDestructorDoesNothing) {
       EXPECT_EQ(release(), 0);
     }
   };
-  EXPECT_EQ(ZOL::make<Restless>(&diary)->release(), 0);
+  EXPECT_EQ(ZOL::makeObject<Restless>(&diary)->release(), 0);
   EXPECT_EQ(diary, "gone ");
 }
 
 TEST_F(RefCnt, ForgetsTheHookThatItReplaces) {
-  Thing* const thing = ZOL::make<Thing>(&diary);
+  Thing* const thing = ZOL::makeObject<Thing>(&diary);
   CountingHook old;
   CountingHook last;
   EXPECT_EQ(thing->releaseHook(), nullptr);
@@ -164,7 +164,7 @@ TEST_F(RefCnt, ForgetsTheHookThatItReplaces) {
 }
 
 TEST_F(RefCnt, NullClearsTheHook) {
-  Thing* const thing = ZOL::make<Thing>(&diary);
+  Thing* const thing = ZOL::makeObject<Thing>(&diary);
   CountingHook hook;
   thing->setReleaseHook(&hook);
   thing->setReleaseHook(nullptr);
@@ -177,7 +177,7 @@ TEST_F(RefCnt, NullClearsTheHook) {
 
 TEST_F(RefCnt, TheBlockGoesWithACountThatHasFallenToZero) {
   const long long before = liveBlocks();
-  Thing* thing = ZOL::make<Thing>(&diary);
+  Thing* thing = ZOL::makeObject<Thing>(&diary);
   const long long held = liveBlocks();
   thing->addRef();
   thing->release();
@@ -221,7 +221,7 @@ TEST_F(RefCnt, TheBlockStaysWhenAConstructorFails) {
   const long long before = liveBlocks();
   bool failed = false;
   try {
-    ZOL::make<Failing>(&diary);
+    ZOL::makeObject<Failing>(&diary);
   } catch (const std::runtime_error&) {
     failed = true;
   }
@@ -300,33 +300,33 @@ TEST(CounterWord, IsEitherRaisedInTimeOrDead) {
 
 // The counted pointer of the library's own code.
 
-TEST(Ref, AdoptsOrShares) {
+TEST(Handle, AdoptsOrShares) {
   std::string diary;
   auto* const note = new Note("a", &diary);
   {
-    const auto shared = ZOL::Ref<Note>::share(note);
+    const auto shared = ZOL::Handle<Note>::share(note);
     EXPECT_EQ(shared.get(), note);
-    const auto adopted = ZOL::Ref<Note>::adopt(note);
+    const auto adopted = ZOL::Handle<Note>::adopt(note);
     EXPECT_TRUE(adopted);
   }
   EXPECT_EQ(diary, "a+ a- a- a!");
 }
 
-TEST(Ref, HasTheNewObjectInPlaceBeforeItReleasesTheOld) {
+TEST(Handle, HasTheNewObjectInPlaceBeforeItReleasesTheOld) {
   std::string diary;
-  auto held = ZOL::Ref<Note>::adopt(new Note("a", &diary));
+  auto held = ZOL::Handle<Note>::adopt(new Note("a", &diary));
   auto* const b = new Note("b", &diary);
-  held = ZOL::Ref<Note>::share(b);
+  held = ZOL::Handle<Note>::share(b);
   EXPECT_EQ(diary, "b+ a- a!");
   held = nullptr;
   b->release();
   EXPECT_EQ(diary, "b+ a- a! b- b- b!");
 }
 
-TEST(Ref, GivesItsReferenceAway) {
+TEST(Handle, GivesItsReferenceAway) {
   std::string diary;
-  auto held = ZOL::Ref<Note>::adopt(new Note("a", &diary));
-  ZOL::Ref<Note> moved = std::move(held);
+  auto held = ZOL::Handle<Note>::adopt(new Note("a", &diary));
+  ZOL::Handle<Note> moved = std::move(held);
   Note* const given = moved.give();
   EXPECT_FALSE(moved);
   EXPECT_EQ(diary, "");
@@ -334,9 +334,9 @@ TEST(Ref, GivesItsReferenceAway) {
   EXPECT_EQ(diary, "a- a!");
 }
 
-TEST(Ref, AssignedToItselfKeepsItsObject) {
-  auto held = ZOL::Ref<ZOL::IZolString>::adopt(createZolString());
-  const ZOL::Ref<ZOL::IZolString>& same = held;
+TEST(Handle, AssignedToItselfKeepsItsObject) {
+  auto held = ZOL::Handle<ZOL::IZolString>::adopt(createZolString());
+  const ZOL::Handle<ZOL::IZolString>& same = held;
   held = same;
   EXPECT_EQ(held->refCount(), 1);
 }
