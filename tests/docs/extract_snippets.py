@@ -11,6 +11,7 @@ from pages import ROOT, all_pages, read_page
 HEAD = '''// Made from the pages of the documentation.
 
 #include <KyDataStructure/KyDataStructure.h>
+#include <KyDataStructure/ref.h>
 
 #include <cstdio>
 #include <cstring>

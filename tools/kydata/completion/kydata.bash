@@ -25,6 +25,8 @@ _kydata() {
   if [[ $previous == --* && -n $name ]]; then
     case $name in
       INFOTYPE) words=$(_kydata_info_types "$help") ;;
+      NAME) words=$(sed --quiet 's/^Forms: \([^.]*\).*/\1/p' <<<"$help" | tr --delete ,) ;;
+      WHEN) words='auto always never' ;;
       N) compopt +o default 2>/dev/null || true ;; # a number, and no file either
     esac
   elif [[ $current == -* ]]; then
