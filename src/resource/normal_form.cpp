@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "frame/batch.h"
 #include "json/writer.h"
 #include "resource/res_serialize_info.h"
 #include "resource/walk.h"
@@ -77,17 +78,30 @@ void ZolResSerializeInfo::readExtensionInfo(Value group) {
 // [{"rsResSlug": "b", "rsResType": 3, "user_string": {...}}]: an array, even an empty
 // one, puts its entries in the place of those that are here.
 void ZolResSerializeInfo::readRelatedRes(Value list) {
+  enum : std::size_t { kSlug, kType, kUser };
+  static constexpr json::Names<3> kMembers(
+      {resPropTable[kResSlug].key, resPropTable[kResType].key, kUserStrings});
+
   if (!list.isArray()) return;
   removeRelatedRes(nullptr);
+  relatedRes_.reserve(list.size());
   for (const Value element : list.elements()) {
-    const char* const slug = element.member(resPropTable[kResSlug].key).text();
-    const long long type = element.member(resPropTable[kResType].key).integer64().value_or(kNoType);
+    const auto in = json::sortIn(kMembers, element);
+    const char* const slug = in[kSlug].text();
+    const long long type = in[kType].integer64().value_or(kNoType);
     if (!slug || *slug == '\0' || type == kNoType) continue;
-    Handle<ZolResSerializeInfo> entry = makeHandle<ZolResSerializeInfo>();
+    const auto userStrings = json::sortIn(kUserStringMembers, in[kUser]);
+    std::size_t room = Batch::room<ZolResSerializeInfo>() + SharedText::room(in[kSlug].bytes());
+    for (const Value text : userStrings) room += SharedText::room(text.bytes());
+    Batch batch(room);
+    Handle<ZolResSerializeInfo> entry = batch.make<ZolResSerializeInfo>();
     entry->intProps_.set(kResInfoType, kSingleInfoType);
     entry->intProps_.set(kResType, type);
-    entry->stringProps_.set(kResSlug, slug);
-    entry->readUserStrings(element.member(kUserStrings));
+    entry->stringProps_.set(kResSlug, batch.put(in[kSlug].bytes()));
+    for (std::size_t row = 0; row < userStrings.size(); ++row) {
+      if (!userStrings[row].isString()) continue;
+      entry->userStrings_.set(row, batch.put(userStrings[row].bytes()));
+    }
     // Valid as it stands, and nobody else's: the copy through text that
     // addRelatedRes() makes of a caller's object would be the same object again.
     relatedRes_.push_back(std::move(entry));
@@ -97,10 +111,9 @@ void ZolResSerializeInfo::readRelatedRes(Value list) {
 
 // {"customRsMd5": "...", ...}; a row without a member leaves its earlier text.
 void ZolResSerializeInfo::readUserStrings(Value object) {
-  for (std::size_t row = 0; row < userStringTable.size(); ++row) {
-    if (const char* const text = object.member(userStringTable[row].jsonKey).text()) {
-      userStrings_.set(row, text);
-    }
+  const auto userStrings = json::sortIn(kUserStringMembers, object);
+  for (std::size_t row = 0; row < userStrings.size(); ++row) {
+    if (const char* const text = userStrings[row].text()) userStrings_.set(row, text);
   }
 }
 

@@ -8,8 +8,9 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
-#include <memory>
+#include <utility>
+
+#include "frame/shared_text.h"
 
 namespace ZOL {
 
@@ -51,18 +52,16 @@ class TextSlots {
   bool has(std::size_t slot) const { return held_.has(slot); }
   bool none() const { return held_.none(); }
   // The empty text for a slot that is not held.
-  const char* get(std::size_t slot) const { return texts_[slot] ? texts_[slot].get() : ""; }
-  void set(std::size_t slot, const char* text) {
-    const std::size_t size = std::strlen(text) + 1;
-    std::unique_ptr<char[]> copy(new char[size]);
-    std::memcpy(copy.get(), text, size);
-    texts_[slot].swap(copy);
+  const char* get(std::size_t slot) const { return texts_[slot].get(); }
+  void set(std::size_t slot, const char* text) { set(slot, SharedText(text)); }
+  void set(std::size_t slot, SharedText text) {
+    texts_[slot] = std::move(text);
     held_.add(slot);
   }
 
  private:
   Held<N> held_;
-  std::array<std::unique_ptr<char[]>, N> texts_;
+  std::array<SharedText, N> texts_;
 };
 
 }  // namespace ZOL

@@ -149,6 +149,13 @@ inline constexpr auto kPropKeys = namesOfKeys(resPropTable, std::make_index_sequ
 inline constexpr auto kUserStringKeys =
     namesOfKeys(userStringTable, std::make_index_sequence<userStringTable.size()>());
 
+template <std::size_t... Is>
+constexpr auto userStringMembers(std::index_sequence<Is...>) {
+  return json::Names<userStringTable.size()>({userStringTable[Is].jsonKey...});
+}
+inline constexpr auto kUserStringMembers =
+    userStringMembers(std::make_index_sequence<userStringTable.size()>());
+
 template <class Table>
 constexpr bool ascends(const Table& table) {
   for (std::size_t i = 1; i < table.size(); ++i) {

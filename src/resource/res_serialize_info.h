@@ -56,6 +56,8 @@ class IMergingResSerializeInfo : public IZolResSerializeInfo {
 class ZolResSerializeInfo final
     : public Counted<IMergingResSerializeInfo, IZolResSerializeInfoInternal, RefCnt<void>> {
  public:
+  using Counted::Counted;
+
   void* queryInterface(const char* name) override;
 
   int setFromCompletResInfo(IZolString* text, int infoType) override;
