@@ -115,8 +115,9 @@ void readScores(Value samples, ZolDemensionsItem& item) {
   auto scores = makeHandle<ValueList<ZOLIntList>>();
   std::vector<int>& scored = scores->elements();
   scored.reserve(samples.size());
+  int score = 0;
   for (const Value sample : samples.elements()) {
-    if (const auto score = sample.integer32()) scored.push_back(*score);
+    if (sample.read(score)) scored.push_back(score);
   }
   std::vector<long long>& timed = times->elements();
   timed.resize(scored.size());

@@ -78,9 +78,13 @@ class TapeBuilder : public rapidjson::BaseReaderHandler<Encoding, TapeBuilder> {
     return true;
   }
 
-  // A value is complete. Shows it if it is a child of the root.
+  // A value is complete.
   void complete(std::size_t place) {
-    if (!watcher_ || open_ != kRoot || place == kRoot) return;
+    if (watcher_ && open_ == kRoot && place != kRoot) show(place);
+  }
+
+  // Shows a child of the root. Rare, and kept out of what runs for every value.
+  [[gnu::noinline]] void show(std::size_t place) {
     const bool named = tape_[kRoot].kind() == Kind::object;
     const Node* const key = named ? &tape_[place - 1] : nullptr;
     if (!watcher_->takes(key, Value(&tape_[place]))) return;
@@ -88,7 +92,7 @@ class TapeBuilder : public rapidjson::BaseReaderHandler<Encoding, TapeBuilder> {
     ++taken_;
   }
 
-  void grow() {
+  [[gnu::noinline]] void grow() {
     const std::size_t capacity = capacity_ ? capacity_ * 2 : 64;
     tape_ = static_cast<Node*>(
         ThrowingAllocator::Realloc(tape_, capacity_ * sizeof(Node), capacity * sizeof(Node)));

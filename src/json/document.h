@@ -60,9 +60,10 @@ class Value {
   bool isObject() const { return is(Kind::object); }
   bool isNumber() const { return is(Kind::number); }
 
-  // A number without point and exponent that fits.
+  // A number without point and exponent that fits. The last form is for many of them.
   std::optional<long long> integer64() const;
   std::optional<int> integer32() const;
+  bool read(int& integer) const;
 
   // A string, zero-terminated, lent by the document; null for any other value. It
   // counts up to its first zero byte.
@@ -190,13 +191,17 @@ inline std::optional<long long> Value::integer64() const {
   return integer;
 }
 
+inline bool Value::read(int& integer) const {
+  long long wide = 0;
+  if (!readInteger(wide)) return false;
+  integer = static_cast<int>(wide);
+  return integer == wide;
+}
+
 inline std::optional<int> Value::integer32() const {
-  long long integer = 0;
-  if (!readInteger(integer) || integer < std::numeric_limits<int>::min() ||
-      integer > std::numeric_limits<int>::max()) {
-    return std::nullopt;
-  }
-  return static_cast<int>(integer);
+  int integer = 0;
+  if (!read(integer)) return std::nullopt;
+  return integer;
 }
 
 inline Elements Value::elements() const {
