@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <limits>
-#include <regex>
 
 #include "check/made.h"
 #include "utf8.h"
@@ -67,25 +66,42 @@ Found lookAtHighlightClass(const Value& value) {
                 "an integer is never the text \"emotion\", and the highlight's type is 1"};
 }
 
+/// Takes one to nine digits off the front.
+bool takeDigits(std::string_view& text, long long& number) {
+  const std::size_t count = std::min(text.find_first_not_of("0123456789"), text.size());
+  if (count < 1 || count > 9) return false;
+  std::from_chars(text.data(), text.data() + count, number);
+  text.remove_prefix(count);
+  return true;
+}
+
+bool takeColon(std::string_view& text) {
+  if (text.empty() || text.front() != ':') return false;
+  text.remove_prefix(1);
+  return true;
+}
+
 /// "0:1:30", with or without "Z", and of no more milliseconds than 32 bits hold.
-bool isTime(const std::string& text) {
-  static const std::regex pattern("([0-9]{1,9}):([0-9]{1,9}):([0-9]{1,9})Z?");
-  std::smatch parts;
-  if (!std::regex_match(text, parts, pattern)) return false;
-  const auto part = [&](std::size_t i) { return std::stoll(parts[i]); };
-  const long long seconds = (part(1) * 60 + part(2)) * 60 + part(3);
-  return seconds <= std::numeric_limits<int>::max() / 1000;
+bool isTime(std::string_view text) {
+  long long hours = 0;
+  long long minutes = 0;
+  long long seconds = 0;
+  if (!takeDigits(text, hours) || !takeColon(text) || !takeDigits(text, minutes) ||
+      !takeColon(text) || !takeDigits(text, seconds) || (!text.empty() && text != "Z")) {
+    return false;
+  }
+  return (hours * 60 + minutes) * 60 + seconds <= std::numeric_limits<int>::max() / 1000;
 }
 
 Found lookAtSpan(const Value& value) {
-  const std::string text(value.untilZero());
+  const std::string_view text = value.untilZero();
   const std::size_t hyphen = text.find('-');
-  if (hyphen == std::string::npos) {
+  if (hyphen == std::string_view::npos) {
     return Remark{Code::noSpan, Effect::ignored,
                   "there is no hyphen, so it is no span and is passed over"};
   }
   if (isTime(text.substr(0, hyphen)) && isTime(text.substr(hyphen + 1))) return std::nullopt;
-  const auto [start, end] = spanMadeOf(text);
+  const auto [start, end] = spanMadeOf(std::string(text));
   return Remark{Code::oddTime, Effect::changed,
                 quoted(text) + " is not written as 0:1:30Z-0:2:0Z, and is read as " +
                     std::to_string(start) + " to " + std::to_string(end) + " milliseconds"};
