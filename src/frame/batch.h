@@ -33,13 +33,12 @@ class Batch {
   // The bytes that an object takes.
   template <class Class>
   static constexpr std::size_t room() {
-    static_assert(alignof(Class) <= kStep && sizeof(Class) % kStep == 0);
-    return sizeof(CounterBlock) + sizeof(Class);
+    static_assert(alignof(Class) <= kAlignment);
+    return sizeof(CounterBlock) + rounded(sizeof(Class));
   }
 
   explicit Batch(std::size_t bytes) {
-    const std::size_t size =
-        sizeof(Shares) + (std::min(bytes, kGreatest) + kStep - 1) / kStep * kStep;
+    const std::size_t size = sizeof(Shares) + rounded(std::min(bytes, kGreatest));
     void* const memory = ::operator new(size);
     shares_ = new (memory) Shares(kUndecided);
     objects_ = static_cast<char*>(memory) + sizeof(Shares);
@@ -86,8 +85,13 @@ class Batch {
   // While the batch is being filled it has this many shares, so that they are given out
   // without a write. What is too many comes back at the end.
   static constexpr std::size_t kUndecided = std::numeric_limits<std::size_t>::max() / 2;
-  static constexpr std::size_t kStep = RefCnt<void>::kBatchStep;
-  static_assert(kGreatest / kStep <= RefCnt<void>::kMostBatchSteps);
+  static constexpr std::size_t kAlignment = 8;
+  static_assert(kGreatest / RefCnt<void>::kBatchStep < RefCnt<void>::kMostBatchSteps);
+  static_assert(alignof(Shares) == kAlignment && sizeof(CounterBlock) == kAlignment);
+
+  static constexpr std::size_t rounded(std::size_t bytes) {
+    return (bytes + kAlignment - 1) / kAlignment * kAlignment;
+  }
 
   std::size_t left() const { return static_cast<std::size_t>(texts_ - objects_); }
 

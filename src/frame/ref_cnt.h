@@ -96,7 +96,7 @@ class RefCnt<void> {
   void beginAtOne() { block_->strong.incrementUnseen(); }
 
   // For an object that stands, with its block, in memory that it shares (batch.h).
-  static constexpr std::size_t kBatchStep = 8;
+  static constexpr std::size_t kBatchStep = alignof(void*);
   static constexpr std::size_t kMostBatchSteps = 65535;
   void belongTo(Shares& shares) {
     const auto distance = reinterpret_cast<char*>(this) - reinterpret_cast<char*>(&shares);

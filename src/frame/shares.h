@@ -11,7 +11,8 @@
 
 namespace ZOL {
 
-class Shares {
+// As wide as what may stand behind it needs, also where a pointer is narrower.
+class alignas(8) Shares {
  public:
   explicit Shares(std::size_t count) : count_(count) {}
 
