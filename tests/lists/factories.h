@@ -6,8 +6,6 @@
 
 #include <KyDataStructure/KyDataStructure.h>
 
-#include <string>
-
 #include "support/counted_note.h"
 
 template <class List>
@@ -328,8 +326,7 @@ inline ZOL::IZolRoleSearchItemInfo* createElement<ZOL::IZolRoleSearchItemInfo>()
 // of ZOLBaseObjectList.
 template <>
 inline ZOL::IGpuInfo* createElement<ZOL::IGpuInfo>() {
-  static std::string diary;
-  return new GpuNote("gpu", &diary);
+  return new GpuNote("gpu", nullptr);
 }
 template <>
 inline ZOL::IDmBaseObj* createElement<ZOL::IDmBaseObj>() {

@@ -10,9 +10,9 @@
 #include <string>
 
 // Implements `Interface`, which has IDmBaseObj's six operations and no others.
-// Starts with one reference and ends with the last. The diary, which outlives the
-// note, gets "name+" for each addRef(), "name-" for each release() and "name!" at
-// the end.
+// Starts with one reference and ends with the last. The diary, if there is one,
+// outlives the note and gets "name+" for each addRef(), "name-" for each release()
+// and "name!" at the end.
 template <class Interface>
 class CountedNote final : public Interface {
  public:
@@ -52,6 +52,7 @@ class CountedNote final : public Interface {
   ~CountedNote() = default;
 
   void write(const char* event) {
+    if (!diary_) return;
     if (!diary_->empty()) *diary_ += ' ';
     *diary_ += name_ + event;
   }
