@@ -3,22 +3,13 @@
 namespace ZOL {
 namespace {
 
-// Makes the field's list on first use and fills it from the caller's.
+// A list with the elements of the caller's. Made apart from the field that is to hold it,
+// which stays as it is when there is no memory for the whole.
 template <class List>
-void keepCopy(Handle<List>& field, List* (*create)(), List* from) {
-  if (!field) field = Handle<List>::adopt(create());
-  field->clear();
-  field->assign(from);
-}
-
-// The same for fields that null clears.
-template <class List>
-void keepCopyOrNone(Handle<List>& field, List* (*create)(), List* from) {
-  if (from) {
-    keepCopy(field, create, from);
-  } else {
-    field = nullptr;
-  }
+Handle<List> copyOf(List* from, List* (*create)()) {
+  auto copy = Handle<List>::adopt(create());
+  copy->assign(from);
+  return copy;
 }
 
 }  // namespace
@@ -36,8 +27,9 @@ int ZolSliceItem::getKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
 
 int ZolSliceItem::setKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
   if (!keys || !values || keys->size() != values->size()) return kRefused;
-  keepCopy(keys_, createZOLPCharList, keys);
-  keepCopy(values_, createZOLPCharList, values);
+  auto ownKeys = copyOf(keys, createZOLPCharList);
+  values_ = copyOf(values, createZOLPCharList);
+  keys_ = std::move(ownKeys);
   return kSuccess;
 }
 
@@ -53,7 +45,7 @@ int ZolDemensionsItem::getSliceItems(IZolSliceItemList* out) {
 }
 
 int ZolDemensionsItem::setSliceItems(IZolSliceItemList* slices) {
-  keepCopyOrNone(sliceItems_, createIZolSliceItemList, slices);
+  sliceItems_ = slices ? copyOf(slices, createIZolSliceItemList) : nullptr;
   return kSuccess;
 }
 
@@ -74,7 +66,7 @@ int ZolDemensionsItem::getLabelSliceItems(const char* label, IZolSliceItemList* 
 
 int ZolDemensionsItem::setLabelSliceItems(const char* label, IZolSliceItemList* slices) {
   if (!label || !slices) return kRefused;
-  keepCopy(labelSliceItems_[label], createIZolSliceItemList, slices);
+  takeLabelSliceItems(label, copyOf(slices, createIZolSliceItemList));
   return kSuccess;
 }
 
@@ -98,8 +90,8 @@ int ZolDemensionsItem::getScores(ZOLLonglongList* times, ZOLIntList* scores) {
 
 int ZolDemensionsItem::setScores(ZOLLonglongList* times, ZOLIntList* scores) {
   if (!times || !scores || times->size() != scores->size()) return kRefused;
-  keepCopy(scoreTimes_, createZOLLonglongList, times);
-  keepCopy(scores_, createZOLIntList, scores);
+  auto ownTimes = copyOf(times, createZOLLonglongList);
+  takeScores(std::move(ownTimes), copyOf(scores, createZOLIntList));
   return kSuccess;
 }
 
@@ -126,7 +118,7 @@ int ZolKeyMatrixInfo::getKeywords(ZOLPCharList* out) {
 }
 
 int ZolKeyMatrixInfo::setKeywords(ZOLPCharList* keywords) {
-  keepCopyOrNone(keywords_, createZOLPCharList, keywords);
+  keywords_ = keywords ? copyOf(keywords, createZOLPCharList) : nullptr;
   return kSuccess;
 }
 
