@@ -100,6 +100,9 @@ const char* ZolResSerializeInfo::uniqueKey() {
   getProperty(resSerializeInfoPropKey::rsResType, &type);
   _Property infoType{};
   getProperty(resSerializeInfoPropKey::rsResInfoType, &infoType);
+  // With room for the whole at once: without memory for it the last key stays.
+  constexpr std::size_t kLongestTail = sizeof("_res_type_-2147483648_info_type_-2147483648");
+  uniqueKeyCache_.reserve(std::strlen(slug.value) + kLongestTail);
   uniqueKeyCache_.assign(slug.value);
   uniqueKeyCache_.append("_res_type_");
   uniqueKeyCache_.append(std::to_string(static_cast<int>(integerIn(type))));
