@@ -144,10 +144,12 @@ int ZolResSerializeInfo::mergeFrom(IZolResSerializeInfo* other) {
   }
   std::unordered_set<const ZolResSerializeInfo*> held;
   for (const auto& entry : relatedRes_) held.insert(entry.get());
-  const std::vector<Handle<ZolResSerializeInfo>> others = source->relatedRes_;
-  for (const auto& entry : others) {
-    if (held.insert(entry.get()).second) relatedRes_.push_back(entry);
+  std::vector<Handle<ZolResSerializeInfo>> missing;
+  for (const auto& entry : source->relatedRes_) {
+    if (held.insert(entry.get()).second) missing.push_back(entry);
   }
+  relatedRes_.insert(relatedRes_.end(), std::make_move_iterator(missing.begin()),
+                     std::make_move_iterator(missing.end()));
   hasRelatedRes_ = !relatedRes_.empty();
   if (sourceText_.empty()) sourceText_ = source->sourceText_;
   return kSuccess;
