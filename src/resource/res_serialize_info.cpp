@@ -248,6 +248,7 @@ int ZolResSerializeInfo::removeRelatedRes(IZolResSerializeInfo* info) {
   // Asked ahead of the lock: `info` is the caller's, and has a lock of its own.
   const UserStrings texts = userStringsOf(info);
   const Lock lock(stateMutex_);
+  gone.reserve(relatedRes_.size());  // now, while the entries stand in their order
   // On purpose the slugs are not compared.
   const auto sameUserStrings = [&texts](const Handle<ZolResSerializeInfo>& entry) {
     for (std::size_t row = 0; row < texts.size(); ++row) {
