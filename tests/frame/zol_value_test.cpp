@@ -238,6 +238,40 @@ TEST(ZolValue, AssigningTakesTypeAndPayload) {
   EXPECT_EQ(show(text), "none");
 }
 
+TEST(ZolValue, AssignedToItselfIsAsItWas) {
+  ZolValue values[] = {ZolValue(kLongText), ZolValue(""), ZolValue(2.5), ZolValue()};
+  for (ZolValue& value : values) {
+    const std::string before = show(value);
+    const ZolValue& same = value;
+    EXPECT_EQ(show(value = same), before);
+    EXPECT_EQ(show(value = std::move(value)), before);  // NOLINT(clang-diagnostic-self-move)
+  }
+}
+
+TEST(ZolValue, SetToItsOwnTextOrAPartOfItHasThatPart) {
+  ZolValue value("harbour bell");
+  value.setValue(value.charValue());
+  EXPECT_EQ(show(value), "string \"harbour bell\"");
+  value.setValue(value.charValue() + 8);
+  EXPECT_EQ(show(value), "string \"bell\"");
+  value.setValue(value.charValue() + 4);
+  EXPECT_EQ(show(value), "string \"\"") << "its terminating zero";
+}
+
+TEST(ZolValue, SetToTheTextOfAnotherValueTakesThatText) {
+  // Both ways, as either may lie in front of the other in memory.
+  ZolValue first("first");
+  ZolValue second("second");
+  ZolValue copyOfFirst(first);
+  ZolValue copyOfSecond(second);
+  copyOfFirst.setValue(second.charValue());
+  copyOfSecond.setValue(first.charValue());
+  EXPECT_EQ(show(copyOfFirst), "string \"second\"");
+  EXPECT_EQ(show(copyOfSecond), "string \"first\"");
+  first.setValue(static_cast<const char*>(nullptr));
+  EXPECT_EQ(show(first), "string \"\"");
+}
+
 // On purpose: the memory of the old text stays until something else gives it up.
 TEST(ZolValue, KeepsTheMemoryOfATextThatANumberWasAssignedOver) {
   using Step = void (*)(ZolValue&);
