@@ -149,6 +149,14 @@ TEST_F(RefCnt, ReleaseFromTheDestructorDoesNothing) {
   EXPECT_EQ(diary, "gone ");
 }
 
+// As it is met by whatever is built or destroyed around it.
+TEST_F(RefCnt, WithoutItsBlockCountsNothing) {
+  ZOL::RefCnt<void> mixin;
+  EXPECT_EQ(mixin.addRef(), 0);
+  EXPECT_EQ(mixin.refCount(), 0);
+  EXPECT_EQ(mixin.release(), 0);
+}
+
 TEST_F(RefCnt, ForgetsTheHookThatItReplaces) {
   Thing* const thing = ZOL::makeObject<Thing>(&diary);
   CountingHook old;
