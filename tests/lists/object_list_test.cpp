@@ -318,4 +318,30 @@ TEST(BaseObjectList, HasLetGoOfAnElementBeforeTheElementEnds) {
   EXPECT_EQ(watcher.sizes, "3 3 0 0 ");
 }
 
+// And may put something into it.
+TEST(BaseObjectList, KeepsWhatAnElementAddsWhileItIsCleared) {
+  class Filler final : public ZOL::IReleaseHook {
+   public:
+    Filler(ZOL::ZOLBaseObjectList* filled, ZOL::IDmBaseObj* last) : list(filled), added(last) {}
+    void onLastRelease() override { list->add(added); }
+    ZOL::ZOLBaseObjectList* const list;
+    ZOL::IDmBaseObj* const added;
+  };
+  Held<ZOL::ZOLBaseObjectList> list(createZOLBaseObjectList());
+  Held<ZOL::IZolString> last(createZolString());
+  Filler filler(list.get(), last.get());
+  for (int i = 0; i < 2; ++i) {
+    Held<ZOL::IZolString> text(createZolString());
+    text->setReleaseHook(&filler);
+    list->add(text.get());
+  }
+  EXPECT_EQ(list->clear(), 0);
+  EXPECT_EQ(list->size(), 2) << "one for each that went";
+  EXPECT_EQ(list->at(0), last.get());
+  EXPECT_EQ(last->refCount(), 3);
+  EXPECT_EQ(list->clear(), 0);
+  EXPECT_EQ(list->size(), 0);
+  EXPECT_EQ(last->refCount(), 1);
+}
+
 }  // namespace
