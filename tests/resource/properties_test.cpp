@@ -142,7 +142,7 @@ TEST(Properties, AreNotReachedByTheKeyOfAUserString) {
   EXPECT_TRUE(info->isEmpty());
 }
 
-TEST(Properties, RefuseANullKeyAndANullText) {
+TEST(Properties, RefuseANullKeyARecordThatIsNullAndANullText) {
   const Held<Info> info = newInfo();
   const ZOL::_Property value = integerProperty(7);
   ZOL::_Property out{};
@@ -150,6 +150,7 @@ TEST(Properties, RefuseANullKeyAndANullText) {
   EXPECT_EQ(inside(info).setStringValue(nullptr, "a"), 1001);
   EXPECT_EQ(inside(info).setStringValue("rsResSlug", nullptr), 1001);
   EXPECT_EQ(info->setProperty(nullptr, &value), 1001);
+  EXPECT_EQ(info->setProperty("rsResType", nullptr), 1001);
   EXPECT_EQ(info->getProperty(nullptr, &out), 1001);
   EXPECT_EQ(inside(info).intValue(nullptr), 0);
   EXPECT_STREQ(inside(info).stringValue(nullptr), "");
