@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -128,6 +129,26 @@ TEST(RelatedRes, TakesADescriptionThatForwardsTheQueryOfItsName) {
   EXPECT_EQ(inside(info).removeRelatedRes(&forwarding), 0);
   EXPECT_EQ(slugsRelatedTo(info), "");
   EXPECT_EQ(inner->refCount(), 1);
+}
+
+// Whether it is the user's own can be asked at the internal interface alone.
+TEST(RelatedRes, RefusesADescriptionThatCannotBeAskedWhetherItIsTheUsersOwn) {
+  class ClosedInfo final : public StandIn {
+   public:
+    using StandIn::StandIn;
+    void* queryInterface(const char* name) override {
+      const bool isOurs = std::strcmp(name, "ZolResSerializeInfo") == 0;
+      return isOurs ? inner_->queryInterface(name) : nullptr;
+    }
+  };
+  const Held<Info> inner = single("b");
+  ClosedInfo closed(inner.get());
+  ASSERT_TRUE(closed.isValid());
+  const Held<Info> info = single("a");
+  inside(info).addRelatedRes(inner.get());
+  EXPECT_EQ(inside(info).addRelatedRes(&closed), 1001);
+  EXPECT_EQ(inside(info).removeRelatedRes(&closed), 1001);
+  EXPECT_EQ(slugsRelatedTo(info), "b");
 }
 
 TEST(RelatedRes, HoldsACopyAndNeverTheCallersObject) {
