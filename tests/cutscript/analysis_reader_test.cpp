@@ -91,7 +91,10 @@ TEST(AnalysisReport, CountsTheFirstOfMembersWithOneName) {
   EXPECT_EQ(showReport(R"({"keywords": ["a"], "keywords": ["b"],
                            "camera": {"labels": {"x": ["-"]}, "labels": {"y": ["-"]}},
                            "camera": {"labels": {"z": ["-"]}},
+                           "stt": [{"begin_time": 1, "end_time": 2, "text": "a"}],
+                           "stt": [{"begin_time": 3, "end_time": 4, "text": "b"}],
                            "action": 1, "action": {}})"),
+            "1: slices [\"a\" 1..2]\n"
             "5: labels [\"x\"], slices [\"x\" 0..0]\n"
             "keywords [\"a\"]\n");
 }
