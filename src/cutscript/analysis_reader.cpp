@@ -39,12 +39,19 @@ struct LabelledDimension {
   bool labelIsScore;  // the label is a number, the score of its slices
 };
 
+// By type, but for "total": of several labels that are no score, one of "total" is the
+// last to fail.
 constexpr LabelledDimension kLabelledDimensions[] = {
-    {2, "total", false, true},           {3, "scene", true, false},
-    {4, "object", true, false},          {5, "camera", true, false},
-    {6, "camera_quality", false, false}, {7, "brightness_change", false, true},
-    {8, "scene_text", true, false},      {9, "emotion", true, false},
-    {11, "action", true, false},         {12, "shot_size", true, false},
+    {3, "scene", true, false},
+    {4, "object", true, false},
+    {5, "camera", true, false},
+    {6, "camera_quality", false, false},
+    {7, "brightness_change", false, true},
+    {8, "scene_text", true, false},
+    {9, "emotion", true, false},
+    {11, "action", true, false},
+    {12, "shot_size", true, false},
+    {2, "total", false, true},
 };
 
 bool readSpan(Value element, Span& span) {

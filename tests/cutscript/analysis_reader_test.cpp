@@ -286,6 +286,14 @@ TEST(Dimension, WithALabelThatIsNoScoreFails) {
   }
 }
 
+TEST(Dimension, OfTwoWithALabelThatIsNoScoreFailsForBrightness) {
+  const std::string total = R"("total": {"labels": {"99999999999": ["-"]}})";
+  const std::string brightness = R"("brightness_change": {"labels": {"x": ["-"]}})";
+  for (const std::string& text : {total + ", " + brightness, brightness + ", " + total}) {
+    EXPECT_EQ(failure("{" + text + "}"), "invalid_argument: invalid stoi argument") << text;
+  }
+}
+
 TEST(Dimension, FailsOnlyForALabelWithASlice) {
   EXPECT_EQ(showReport(R"({"total": {"labels": {"x": [], "y": ["no span", 1], "z": "-"}}})"),
             "2: slices []\n");
