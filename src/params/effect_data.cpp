@@ -14,15 +14,15 @@ constexpr int kDescriptionId = 1;         // of resource media and portraits
 constexpr int kSlugId = 2;                // of resource media and portraits
 constexpr int kStylizeDescriptionId = 3;  // of image stylising
 
-// The first description that comes to `object` while it has no slug gives it one. A
-// text that is no description is no matter.
+// The first description that comes to `object` while it has no slug gives it one; every
+// description has one. A text that is no description is no matter.
 void deriveSlug(IParamObjectData& object, int id, const char* text) {
   if (id != kDescriptionId || *object.param(kSlugId) != '\0') return;
   const auto info = Handle<IZolResSerializeInfo>::adopt(createZolResSerializeInfoFromBuffer(text));
+  if (!info) return;
   _Property slug{};
-  if (info && info->getProperty(resSerializeInfoPropKey::rsResSlug, &slug) == kSuccess) {
-    object.setParam(kSlugId, slug.value);
-  }
+  info->getProperty(resSerializeInfoPropKey::rsResSlug, &slug);
+  object.setParam(kSlugId, slug.value);
 }
 
 class RelinkEffectData : public ParamObjectData, public virtual IRelinkEffectData {
@@ -94,10 +94,9 @@ class ImageStylizesData final : public RelinkEffectData, public virtual IImageSt
   int resourceType() override {
     const auto info = Handle<IZolResSerializeInfo>::adopt(
         createZolResSerializeInfoFromBuffer(param(kStylizeDescriptionId)));
-    _Property type{};
-    if (!info || info->getProperty(resSerializeInfoPropKey::rsResType, &type) != kSuccess) {
-      return -1;
-    }
+    if (!info) return -1;
+    _Property type{};  // every description has one
+    info->getProperty(resSerializeInfoPropKey::rsResType, &type);
     long long code = 0;
     std::memcpy(&code, type.value, sizeof(code));
     return static_cast<int>(code);
