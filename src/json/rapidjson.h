@@ -43,12 +43,7 @@ class ThrowingAllocator {
   static const bool kNeedFree = true;
 
   // The names are those that RapidJSON calls.
-  static void* Malloc(std::size_t size) { return Realloc(nullptr, 0, size); }
   static void* Realloc(void* memory, std::size_t /*oldSize*/, std::size_t newSize) {
-    if (newSize == 0) {
-      Free(memory);
-      return nullptr;
-    }
     void* const grown = std::realloc(memory, newSize);
     if (!grown) throw std::bad_alloc();
     return grown;
