@@ -249,16 +249,14 @@ class NormalFormWriter {
     }
   }
 
-  // The entries go through their own locks, inside that of the description.
+  // The entries, which are valid, go through their own locks, inside that of the
+  // description.
   void writeRelatedRes() {
     writer_.beginArray();
     for (const auto& entry : info_.relatedRes_) {
-      const char* const slug = entry->stringValue(kResSlug);
-      const long long type = entry->intValue(kResType);
-      if (*slug == '\0' || type == kNoType) continue;
       writer_.beginObject();
-      writer_.member(resPropTable[kResSlug].key, slug);
-      writer_.member(resPropTable[kResType].key, type);
+      writer_.member(resPropTable[kResSlug].key, entry->stringValue(kResSlug));
+      writer_.member(resPropTable[kResType].key, entry->intValue(kResType));
       writer_.key(kUserStrings);
       writer_.beginObject();
       for (const UserString& row : userStringTable) {
