@@ -33,7 +33,8 @@ constexpr auto kMemberNames = memberNames(std::make_index_sequence<kPropCount>()
 
 // The first element of an array; none when it is empty or no array.
 Value firstOf(Value array) {
-  return array.isArray() && array.size() ? *array.elements().begin() : Value();
+  if (!array.isArray() || array.size() == 0) return Value();
+  return *array.elements().begin();
 }
 
 // The name of a row of kind `group` in its group.
