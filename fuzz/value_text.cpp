@@ -2,9 +2,12 @@
 
 #include <KyDataStructure/frame.h>
 
+#include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <limits>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 
@@ -20,6 +23,58 @@ std::string written(ZolValue& value) {
   const Held<ZOL::IZolString> out(createZolString());
   require(ZOLValueToString(&value, out.get()) == ZOL::kSuccess, "any value is written");
   return bytesIn(*out);
+}
+
+// As the standard library's streams write it.
+std::string printed(ZolValue& value) {
+  std::ostringstream out;
+  out << std::fixed;
+  switch (value.type()) {
+    case ZOL::kBoolValue:
+      out << value.boolValue();
+      break;
+    case ZOL::kDoubleValue:
+      out << value.doubleValue();
+      break;
+    case ZOL::kFloatValue:
+      out << value.floatValue();
+      break;
+    case ZOL::kLonglongValue:
+      out << value.longlongValue();
+      break;
+    case ZOL::kIntValue:
+      out << value.intValue();
+      break;
+    case ZOL::kUintValue:
+      out << value.uintValue();
+      break;
+    case ZOL::kStringValue:
+      out << value.charValue();
+      break;
+    default:
+      break;
+  }
+  return out.str();
+}
+
+// The number that the text begins with.
+bool holdsNumberOf(const char* text, ZolValue& value) {
+  switch (value.type()) {
+    case ZOL::kDoubleValue: {
+      const double number = std::strtod(text, nullptr);
+      return value.doubleValue() == number || std::isnan(number);
+    }
+    case ZOL::kLonglongValue:
+      return value.longlongValue() == std::strtoll(text, nullptr, 10);
+    case ZOL::kIntValue:
+      return value.intValue() == std::strtoll(text, nullptr, 10);
+    case ZOL::kUintValue:
+      return value.uintValue() == static_cast<unsigned>(std::strtoll(text, nullptr, 10));
+    case ZOL::kBoolValue:
+      return value.boolValue() == (std::strtoll(text, nullptr, 10) != 0);
+    default:
+      return true;
+  }
 }
 
 bool isRead(const char* text, ZolValue& value) {
@@ -47,9 +102,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
   const bool taken = isRead(text.c_str(), value);
   require(value.type() == type, "the value's type decides");
   require(taken || written(value) == before, "a text that is not read changes nothing");
+  require(!taken || holdsNumberOf(text.c_str(), value), "a text's number is the value");
   if (type == ZOL::kStringValue) require(value.charValue() == text, "a text is taken as it is");
 
   const std::string first = written(value);
+  require(first == printed(value), "a value is written as the standard library writes it");
   ZolValue again = kinds[*bytes % std::size(kinds)];
   if (value.uintValue() > static_cast<unsigned>(std::numeric_limits<int>::max())) {
     // On purpose an unsigned number is read as a signed one.
