@@ -134,14 +134,13 @@ class OperationCall final : public Call {
   template <std::size_t... place>
   Outcome run(Owner* owner, [[maybe_unused]] const Arguments& arguments,
               std::index_sequence<place...>) const {
-    const auto result = [&]() -> Result {
-      return (owner->*operation_)(static_cast<Given<T>&>(*arguments[place]).value()...);
-    };
+    Class* const target = owner;
     if constexpr (std::is_void_v<Result>) {
-      result();
+      (target->*operation_)(static_cast<Given<T>&>(*arguments[place]).value()...);
       return {};
     } else {
-      return outcomeOf<Result>(result());
+      return outcomeOf<Result>(
+          (target->*operation_)(static_cast<Given<T>&>(*arguments[place]).value()...));
     }
   }
 
