@@ -123,7 +123,7 @@ class ScriptReader {
     const auto in = json::sortIn(kMembers, item);
     texts_.clear();
     for (const Value text : in[kText].elements()) texts_.emplace_back(text);
-    Batch batch(roomOfItem(in[kHighlight].size(),
+    Batch batch(roomOfItem(in[kText], in[kHighlight],
                            {in[kTitle], in[kSubtitle], in[kDescription], in[kFileName]}));
 
     Handle<ZolSmartCutClipInfo> clip = batch.make<ZolSmartCutClipInfo>();
@@ -173,12 +173,17 @@ class ScriptReader {
   }
 
   // What all objects and texts that come of an item take together.
-  std::size_t roomOfItem(std::size_t highlights, std::initializer_list<Value> itemTexts) const {
-    std::size_t room = Batch::room<ZolSmartCutClipInfo>() + Batch::room<ZolStoryboardInfo>() +
-                       Batch::room<ObjectList<IZolTextInfoList>>() +
-                       Batch::room<ObjectList<IZolHighlightInfoList>>() +
-                       texts_.size() * Batch::room<ZolTextInfo>() +
-                       highlights * Batch::room<ZolHighlightInfo>();
+  std::size_t roomOfItem(Value texts, Value highlights,
+                         std::initializer_list<Value> itemTexts) const {
+    std::size_t room = Batch::room<ZolSmartCutClipInfo>() + Batch::room<ZolStoryboardInfo>();
+    if (texts.isArray()) {
+      room +=
+          Batch::room<ObjectList<IZolTextInfoList>>() + texts_.size() * Batch::room<ZolTextInfo>();
+    }
+    if (highlights.isArray()) {
+      room += Batch::room<ObjectList<IZolHighlightInfoList>>() +
+              highlights.size() * Batch::room<ZolHighlightInfo>();
+    }
     for (const Value text : itemTexts) room += SharedText::room(text.bytes());
     for (const TextMembers& text : texts_) {
       room += SharedText::room(text.broll[TextMembers::kBrollFileName].bytes());
