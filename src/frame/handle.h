@@ -27,8 +27,8 @@ class Handle {
   Handle(Handle&& other) noexcept : object_(other.object_) { other.object_ = nullptr; }
   // As a base of it.
   template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
-  Handle(Handle<U>&& other) noexcept
-      : object_(other.give()) {}  // NOLINT(google-explicit-constructor)
+  // NOLINTNEXTLINE(google-explicit-constructor): as a pointer converts
+  Handle(Handle<U>&& other) noexcept : object_(other.give()) {}
   // By value, and swapped: the new object is in its place before the old one is
   // released, since a release may call back.
   Handle& operator=(Handle other) noexcept {

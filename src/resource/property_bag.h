@@ -54,7 +54,7 @@ class TextSlots {
   // The empty text for a slot that is not held.
   const char* get(std::size_t slot) const { return texts_[slot].get(); }
   void set(std::size_t slot, const char* text) { set(slot, SharedText(text)); }
-  void set(std::size_t slot, SharedText text) {
+  void set(std::size_t slot, SharedText&& text) {
     texts_[slot] = std::move(text);
     held_.add(slot);
   }

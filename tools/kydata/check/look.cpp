@@ -120,7 +120,7 @@ bool beginsWithInt(std::string_view text) {
 
 Found lookAtScoredSpan(const Value& value, std::string_view label) {
   const std::string_view read = label.substr(0, label.find('\0'));
-  const Found remark = lookAtSpan(value);
+  Found remark = lookAtSpan(value);
   if (remark && remark->code == Code::noSpan) return remark;  // no slice asks for the score
   if (beginsWithInt(read)) return remark;
   return Remark{Code::labelWithoutNumber, Effect::refused,
@@ -143,9 +143,10 @@ bool isCleanBase64(std::string_view text) {
     const std::string_view group = text.substr(0, 4);
     const auto letters = static_cast<std::size_t>(
         std::find_if_not(group.begin(), group.end(), isBase64Letter) - group.begin());
-    if (letters < 4)
+    if (letters < 4) {
       return group == text &&
              (letters == 2 ? group.substr(2) == "==" : letters == 3 && group.substr(3) == "=");
+    }
     text.remove_prefix(4);
   }
   return true;
@@ -248,7 +249,7 @@ Found lookAtEmptyArray(const Rule& rule) {
 
 int idOf(std::string_view name) {
   int id = 0;
-  const auto end = name.data() + name.size();
+  const char* const end = name.data() + name.size();
   const auto read = std::from_chars(name.data(), end, id);
   if (read.ec == std::errc() && read.ptr == end) return id;
   return idMadeOf(std::string(name.substr(0, name.find('\0'))));

@@ -20,7 +20,7 @@ bool isWhole(const Value& value) {
 std::optional<long long> Value::integer() const {
   if (!isWhole(*this)) return std::nullopt;
   long long number = 0;
-  const auto end = text.data() + text.size();
+  const char* const end = text.data() + text.size();
   const auto read = std::from_chars(text.data(), end, number);
   if (read.ec != std::errc() || read.ptr != end) return std::nullopt;
   return number;
