@@ -203,6 +203,11 @@ std::vector<Case> listCases() {
       addCases(kind, letters(0), letters(1), cases);
       addCases(kind, letters(1), letters(8), cases);
       addCases(kind, letters(40), letters(70), cases);
+      // The one list whose every element takes memory of its own.
+      if (kind.name != ZOL::ZOLPCharList::interfaceName) continue;
+      for (std::size_t size = 10; size <= 200; size += 10) {
+        addCases(kind, letters(size), letters(size + 1), cases);
+      }
     }
   }
   addMemoryCases(cases);
