@@ -19,7 +19,7 @@ Input sample(const std::string& file, int infoType = 0) {
 // The numbers of rows of those texts that come in several lengths.
 std::vector<int> lengths() {
   if (!full()) return {3};
-  std::vector<int> all(30);
+  std::vector<int> all(40);
   std::iota(all.begin(), all.end(), 1);
   return all;
 }

@@ -70,6 +70,25 @@ TEST(Threads, SetAndGetWholeTexts) {
   EXPECT_TRUE(isOneOf(inside(info).stringValue("rsResOriginSlug"), "abcdef"));
 }
 
+// The look-up is safe; what it lends is not to be read while somebody sets the key.
+TEST(Threads, LookAKeyUpWhileItIsSet) {
+  const Held<Info> info = single("a");
+  int missing = 0;
+  together({rounds([&](int round) {
+              const std::string text = allOf(static_cast<char>('a' + round % 3));
+              info->setUserString("rsiusCustomRsMd5", text.c_str());
+              inside(info).setStringValue("rsResOriginSlug", text.c_str());
+              inside(info).setIntValue("rsResOriginId", round);
+            }),
+            rounds([&](int) {
+              missing += info->userString("rsiusCustomRsMd5") == nullptr;
+              missing += inside(info).stringValue("rsResOriginSlug") == nullptr;
+              missing += inside(info).intValue("rsResOriginId") < 0;
+            })});
+  EXPECT_EQ(missing, 0);
+  EXPECT_EQ(inside(info).intValue("rsResOriginId"), kRounds - 1);
+}
+
 TEST(Threads, LoseNoPropertyThatOneOfThemSets) {
   const Held<Info> info = newInfo();
   std::vector<std::function<void()>> works;

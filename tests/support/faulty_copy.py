@@ -18,7 +18,8 @@ class Fault:
 
 
 class FaultyCopy:
-    """A copy of some folders and files of the tree, without faults to begin with."""
+    """A copy of some folders and files of the tree, without faults to begin with. Its files
+    are new ones, so that what was built of an earlier copy is built again."""
 
     def __init__(self, folder, parts):
         self.folder = Path(folder)
@@ -26,9 +27,9 @@ class FaultyCopy:
         self.folder.mkdir(parents=True)
         for part in parts:
             if (ROOT / part).is_dir():
-                shutil.copytree(ROOT / part, self.folder / part)
+                shutil.copytree(ROOT / part, self.folder / part, copy_function=shutil.copy)
             else:
-                shutil.copy2(ROOT / part, self.folder / part)
+                shutil.copy(ROOT / part, self.folder / part)
 
     def put(self, fault):
         """Puts the fault in; it must fit in one place and no other."""
