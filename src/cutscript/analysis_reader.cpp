@@ -71,9 +71,12 @@ class SliceMaker {
     slice.setLabel(batch_->put(label));
     return slice;
   }
+  // A short label stands in each piece of memory, a long one only once for all slices.
   ZolSliceItem& addWithCommonLabel(std::string_view label) {
-    ZolSliceItem& slice = add(label);
-    if (isFirstOfBatch_) commonLabel_ = batch_->put(label);
+    const bool isShort = label.size() <= kLongestInEachBatch;
+    ZolSliceItem& slice = add(isShort ? label : std::string_view());
+    if (isFirstOfBatch_ && isShort) commonLabel_ = batch_->put(label);
+    if (!isShort && commonLabel_.isEmpty()) commonLabel_ = SharedText(label);
     slice.setLabel(batch_->again(commonLabel_));
     return slice;
   }
@@ -81,6 +84,9 @@ class SliceMaker {
   Handle<SliceList> giveList() { return std::move(list_); }
 
  private:
+  static constexpr std::size_t kLongestInEachBatch = 256;
+
+  // The label is what room is left for.
   ZolSliceItem& add(std::string_view label) {
     isFirstOfBatch_ = !batch_ || !batch_->hasRoom<ZolSliceItem>();
     if (isFirstOfBatch_) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <iterator>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -550,6 +551,27 @@ TEST(AnalysisReport, IsNotPointedIntoAfterwards) {
             "1: slices [\"t\" 1..2]\n"
             "5: labels [\"pan\"], slices [\"pan\" 0..0]\n"
             "keywords [\"k\"]\n");
+}
+
+// A text that repeats a long label in thousands of slices must not make thousands of copies.
+TEST(AnalysisReport, HoldsALongLabelOnceForAllSlicesOfALabel) {
+  for (const std::size_t length : {2000u, 8000u, 8192u, 100000u}) {
+    const std::string label(length, 'x');
+    std::string spans = "\"0:0:1Z-0:0:2Z\"";
+    for (int i = 1; i < 500; ++i) spans += ", \"0:0:1Z-0:0:2Z\"";
+    const Held<ZOL::IZolKeyMatrixInfo> report(createKeyMatrixInfo(
+        member("camera", "{\"labels\": {\"" + label + "\": [" + spans + "]}}").c_str()));
+    const Held<ZOL::IZolSliceItemList> slices(createIZolSliceItemList());
+    ASSERT_EQ(report->dimensionItem(5)->getLabelSliceItems(label.c_str(), slices.get()), 0);
+    ASSERT_EQ(slices->size(), 500);
+    std::set<const void*> places;
+    for (int i = 0; i < slices->size(); ++i) {
+      ZOL::IZolSliceItem* const slice = slices->at(i);
+      ASSERT_STREQ(slice->label(), label.c_str());
+      places.insert(slice->label());
+    }
+    EXPECT_EQ(places.size(), 1u) << length;
+  }
 }
 
 TEST(AnalysisReport, GivesAllItsMemoryBack) {
