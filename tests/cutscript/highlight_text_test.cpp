@@ -5,8 +5,8 @@
 #include <climits>
 #include <string>
 
-#include "cutscript/foreign_string.h"
 #include "cutscript/script_state.h"
+#include "support/foreign_string.h"
 #include "support/heap_watch.h"
 #include "support/held.h"
 #include "support/zol_text.h"
@@ -55,8 +55,10 @@ TEST(HighlightText, AnswersWhatTheStringAnswers) {
   EXPECT_EQ(out.bytes(), "old");
   out.result = ZOL::kSuccess;
   EXPECT_EQ(highlight(1, 2, 3)->toJson(&out), 0);
-  EXPECT_EQ(out.bytes(), "{\"HLType\":1,\"trimIn\":2,\"trimOut\":3}");
-  EXPECT_EQ(out.lengthsGiven, "-1 -1 -1 ");
+  const std::string written = R"({"HLType":1,"trimIn":2,"trimOut":3})";
+  EXPECT_EQ(out.bytes(), written);
+  const std::string call = "setText(" + written + ", -1)";
+  EXPECT_EQ(out.calls, call + call + call);
 }
 
 TEST(HighlightText, ComesBackWhole) {

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "resource/description.h"
-#include "resource/foreign_text.h"
+#include "support/foreign_string.h"
 
 namespace {
 
@@ -368,11 +368,11 @@ TEST(CompleteForm, IsReadAsTolerantlyAsTheNormalForm) {
 }
 
 TEST(CompleteForm, IsTakenFromAnyStringObjectWithItsLength) {
-  ForeignText text(std::string("{\"id\":42}\0garbage", 17));
+  ForeignString text(std::string("{\"id\":42}\0garbage", 17));
   const Held<Info> info = newInfo();
   EXPECT_EQ(info->setFromCompletResInfo(&text, 101), 0);
   EXPECT_EQ(text.calls, "");
-  ForeignText broken(std::string("{\"id\":\0 42}", 11));
+  ForeignString broken(std::string("{\"id\":\0 42}", 11));
   EXPECT_EQ(info->setFromCompletResInfo(&broken, 101), 1001);
 }
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "resource/description.h"
-#include "resource/foreign_text.h"
+#include "support/foreign_string.h"
 #include "support/json_tree.h"
 
 namespace {
@@ -82,7 +82,7 @@ TEST(NormalFormWriting, LeavesTheStringAsItWasWhenRefused) {
 }
 
 TEST(NormalFormWriting, ReplacesTheStringByATextUpToItsZero) {
-  ForeignText out("what was here");
+  ForeignString out("what was here");
   EXPECT_EQ(single("a")->toBuffer(&out), 0);
   EXPECT_EQ(out.calls,
             "setText({\"infoType\":7,\"res_type\":3,\"name\":\"a\",\"user_string\":{}}, -1)");
@@ -547,7 +547,7 @@ TEST(NormalFormReading, LooksAtTheLengthOfTheStringObject) {
   EXPECT_EQ(afterReading(std::string("\0{\"id\":5}", 9)), "1001 {}");
   EXPECT_EQ(afterReading(std::string("{\"id\":5,\"x\":\"a\0b\"}", 18)), "1001 {}");
   EXPECT_EQ(afterReading(std::string("{\"id\":5/*\0*/}", 13)), "1001 {}");
-  ForeignText text(std::string("{\"id\":5}\0garbage", 16));
+  ForeignString text(std::string("{\"id\":5}\0garbage", 16));
   const Held<Info> info = newInfo();
   EXPECT_EQ(info->setFromBuffer(&text), 1001);
   EXPECT_EQ(show(info), "{rsResId: 5}");

@@ -8,7 +8,7 @@
 #include <string>
 
 #include "resource/description.h"
-#include "resource/foreign_text.h"
+#include "support/foreign_string.h"
 
 namespace {
 
@@ -139,7 +139,7 @@ TEST(Vocabulary, RefusesToNameAFolderNowhere) {
 }
 
 TEST(Vocabulary, NamesAFolderInAnyStringObject) {
-  ForeignText out;
+  ForeignString out;
   EXPECT_EQ(getResourceFolderString(28, &out), 0);
   EXPECT_EQ(getResourceFolderString(25, &out), 0);
   EXPECT_EQ(out.calls, "setText(resClipMotion, -1)setText(, -1)");
