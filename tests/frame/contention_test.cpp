@@ -8,7 +8,6 @@
 #include <atomic>
 #include <memory>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -18,6 +17,7 @@
 #include "frame/handle.h"
 #include "frame/ref_cnt.h"
 #include "frame/shared_text.h"
+#include "support/four_threads.h"
 
 namespace {
 
@@ -26,23 +26,7 @@ using ZOL::CounterWord;
 using ZOL::Handle;
 using ZOL::SharedText;
 
-constexpr int kThreads = 4;
 constexpr int kRounds = 400;
-
-// Runs `work` in four threads that start together.
-template <class Work>
-void inFourThreads(Work work) {
-  std::atomic<int> ready{0};
-  std::vector<std::thread> threads;
-  for (int number = 0; number < kThreads; ++number) {
-    threads.emplace_back([&ready, &work, number] {
-      ready.fetch_add(1, std::memory_order_relaxed);
-      while (ready.load(std::memory_order_relaxed) < kThreads) std::this_thread::yield();
-      work(number);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
 
 class ICue : public ZOL::IDmBaseObj {
  public:

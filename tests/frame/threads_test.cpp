@@ -4,29 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <thread>
-#include <vector>
 
+#include "support/four_threads.h"
 #include "support/held.h"
 
 namespace {
-
-constexpr int kThreads = 4;
-
-// Runs `work` in four threads that start together.
-template <class Work>
-void inFourThreads(Work work) {
-  std::atomic<int> ready{0};
-  std::vector<std::thread> threads;
-  for (int number = 0; number < kThreads; ++number) {
-    threads.emplace_back([&ready, &work, number] {
-      ready.fetch_add(1);
-      while (ready.load() < kThreads) std::this_thread::yield();
-      work(number);
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-}
 
 class AtomicHook final : public ZOL::IReleaseHook {
  public:
