@@ -18,7 +18,7 @@ int ZolSliceItem::getKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
   if (!keys || !values) return kRefused;
   keys->clear();
   values->clear();
-  if (keys_ && values_ && keys_->size() == values_->size()) {
+  if (keys_ && keys_->size() == values_->size()) {
     keys->assign(keys_.get());
     values->assign(values_.get());
   }
@@ -72,8 +72,7 @@ int ZolDemensionsItem::setLabelSliceItems(const char* label, IZolSliceItemList* 
 
 // On purpose true when the sizes differ, the reverse of what the name promises.
 bool ZolDemensionsItem::hasScores() {
-  return scoreTimes_ && scores_ && scoreTimes_->size() != 0 &&
-         scoreTimes_->size() != scores_->size();
+  return scoreTimes_ && scoreTimes_->size() != 0 && scoreTimes_->size() != scores_->size();
 }
 
 // On purpose hung on hasScores(), so samples that setScores() took are never given.

@@ -46,7 +46,7 @@ class ZolSliceItem final : public Counted<IZolSliceItem, IZolSliceItemInternal, 
   Plain<long long> endTime_;
   Plain<int> score_{100};
   Handle<ZOLPCharList> keys_;  // null until first set, as every list below
-  Handle<ZOLPCharList> values_;
+  Handle<ZOLPCharList> values_;  // there when the keys are
   Kept<IZolBGRData> faceImage_;
 };
 
@@ -84,7 +84,7 @@ class ZolDemensionsItem final
   Handle<IZolSliceItemList> sliceItems_;
   std::map<std::string, Handle<IZolSliceItemList>> labelSliceItems_;
   Handle<ZOLLonglongList> scoreTimes_;
-  Handle<ZOLIntList> scores_;
+  Handle<ZOLIntList> scores_;  // there when the times are
 };
 
 class ZolKeyMatrixInfo final
