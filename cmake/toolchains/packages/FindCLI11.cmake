@@ -1,0 +1,7 @@
+include(HeadersOnly)
+if(NOT TARGET CLI11::CLI11)
+  kydatastructure_headers_only(CLI headers)
+  add_library(CLI11::CLI11 INTERFACE IMPORTED)
+  target_include_directories(CLI11::CLI11 INTERFACE ${headers})
+endif()
+set(CLI11_FOUND TRUE)

@@ -1,0 +1,3 @@
+include(HeadersOnly)
+kydatastructure_headers_only(rapidjson RAPIDJSON_INCLUDE_DIRS)
+set(RapidJSON_FOUND TRUE)
