@@ -6,6 +6,7 @@
 #include <KyDataStructure/lists.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <memory>
 #include <type_traits>
@@ -46,7 +47,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
 
   int removeAt(long long index) override {
     if (!holds(index)) return kRefused;
-    const auto position = Store::items.begin() + index;
+    const auto position = positionOf(index);
     if constexpr (kPlain) {
       Store::items.erase(position);
     } else {
@@ -60,7 +61,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
 
   int insertAt(long long index, T element) override {
     if (!mayStandAt(index)) return kRefused;
-    Store::items.insert(Store::items.begin() + index, Store::take(element));
+    Store::items.insert(positionOf(index), Store::take(element));
     behind_.reset();
     return kSuccess;
   }
@@ -106,8 +107,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
     if (!source || !mayStandAt(index)) return kRefused;
     if constexpr (kPlain) {
       if (source != this) {
-        Store::items.insert(Store::items.begin() + index, source->items.begin(),
-                            source->items.end());
+        Store::items.insert(positionOf(index), source->items.begin(), source->items.end());
         behind_.reset();
         return kSuccess;
       }
@@ -119,7 +119,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
     } else {
       for (const Item& item : source->items) taken.push_back(Store::take(Store::lend(item)));
     }
-    Store::items.insert(Store::items.begin() + index, std::make_move_iterator(taken.begin()),
+    Store::items.insert(positionOf(index), std::make_move_iterator(taken.begin()),
                         std::make_move_iterator(taken.end()));
     behind_.reset();
     return kSuccess;
@@ -156,6 +156,9 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   bool holds(long long index) { return index >= 0 && index < size(); }
   bool mayStandAt(long long index) { return index >= 0 && index <= size(); }
   static std::size_t place(long long index) { return static_cast<std::size_t>(index); }
+  typename std::vector<Item>::iterator positionOf(long long index) {
+    return Store::items.begin() + static_cast<std::ptrdiff_t>(index);
+  }
 
   // What a list inserted into itself at `index` takes, front to back. Element by
   // element, last position first, each read sees the positions as they have moved:
