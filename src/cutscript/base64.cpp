@@ -28,9 +28,10 @@ struct Shares {
 };
 constexpr Shares kShares;
 
-#if defined(__GNUC__) && __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
+// Where there are registers for it, and a language for them: sixteen characters at once.
+#if defined(__GNUC__) && (defined(__SSE2__) || defined(__ARM_NEON)) && \
+    __BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__
 
-// Sixteen characters at once, in whatever vector registers the platform has.
 using Sixteen8 __attribute__((vector_size(16))) = std::uint8_t;
 using Eight16 __attribute__((vector_size(16))) = std::uint16_t;
 using Four32 __attribute__((vector_size(16))) = std::uint32_t;
