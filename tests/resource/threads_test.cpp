@@ -306,6 +306,10 @@ TEST(Threads, RemoveTwoDescriptionsFromEachOther) {
   EXPECT_EQ(show(two), show(single("two")));
 }
 
+// Multiples of it have the same upper and lower half, up to the highest round.
+constexpr std::uintptr_t kHalves = (std::uintptr_t{1} << (4 * sizeof(std::uintptr_t))) + 1;
+static_assert(kRounds <= kHalves);
+
 TEST(Threads, AskWhetherItIsEmptyAndForTheHostsWordWithoutTheLock) {
   const Held<Info> info = newInfo();
   std::atomic<bool> set{false};
@@ -319,21 +323,21 @@ TEST(Threads, AskWhetherItIsEmptyAndForTheHostsWordWithoutTheLock) {
               info->setUserString("rsiusCustomRsMd5", "m");
             }),
             rounds([&](int round) {
-              inside(info).setHostData(static_cast<std::uintptr_t>(round) * 0x100000001U);
+              inside(info).setHostData(static_cast<std::uintptr_t>(round) * kHalves);
             }),
             rounds(
                 [&](int) {
                   const bool before = set;
                   emptyAgain += before && info->isEmpty();
                   const std::uintptr_t word = inside(info).hostData();
-                  wrongWords += word % 0x100000001U != 0 || word < largest;
+                  wrongWords += word % kHalves != 0 || word < largest;
                   largest = word;
                 },
                 kRounds * 4)});
   EXPECT_EQ(emptyAgain, 0);
   EXPECT_EQ(wrongWords, 0);
   EXPECT_FALSE(info->isEmpty());
-  EXPECT_EQ(inside(info).hostData(), std::uintptr_t{kRounds - 1} * 0x100000001U);
+  EXPECT_EQ(inside(info).hostData(), std::uintptr_t{kRounds - 1} * kHalves);
 }
 
 TEST(Threads, AskWhetherItIsEmptyWhileEntriesComeAndGo) {
