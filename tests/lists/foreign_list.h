@@ -39,12 +39,12 @@ class ForeignList : public List {
   }
   int removeAt(long long index) override {
     if (index < 0 || index >= size()) return ZOL::kRefused;
-    items_.erase(items_.begin() + index);
+    items_.erase(items_.begin() + static_cast<std::ptrdiff_t>(index));
     return ZOL::kSuccess;
   }
   int insertAt(long long index, T element) override {
     if (index < 0 || index > size()) return ZOL::kRefused;
-    items_.insert(items_.begin() + index, element);
+    items_.insert(items_.begin() + static_cast<std::ptrdiff_t>(index), element);
     return ZOL::kSuccess;
   }
   int setAt(long long index, T element) override {

@@ -86,7 +86,7 @@ TEST(LongList, InsertsIntoItselfAsTheModelDoes) {
     }
     for (long long position = kSize; position-- > 0;) {
       const int element = model[static_cast<std::size_t>(position)];
-      model.insert(model.begin() + index, element);
+      model.insert(model.begin() + static_cast<std::ptrdiff_t>(index), element);
     }
     EXPECT_EQ(list->insertListAt(index, list.get()), 0);
     ASSERT_EQ(list->size(), 2 * kSize);
