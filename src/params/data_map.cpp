@@ -18,8 +18,9 @@ namespace {
 
 constexpr const char* kDataMap = "dataMap";
 
-// The id that a name stands for; 0 for one that does not begin with a number.
-int idOf(const char* name) { return static_cast<int>(std::strtol(name, nullptr, 10)); }
+// The id that a name stands for; 0 for one that does not begin with a number. Of a number
+// beyond 32 bits the low ones count, whatever the platform's `long` holds.
+int idOf(const char* name) { return static_cast<int>(std::strtoll(name, nullptr, 10)); }
 
 }  // namespace
 
