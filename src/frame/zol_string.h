@@ -5,7 +5,10 @@
 
 #include <KyDataStructure/frame.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstring>
+#include <limits>
 #include <string>
 
 #include "frame/counted.h"
@@ -36,8 +39,11 @@ class ZolString final : public Counted<IZolString, RefCnt<void>> {
   unsigned long long length() override { return text_.size(); }
 
  private:
+  // A length beyond what memory could hold stays one, for the string to throw at.
   static std::size_t bytesOf(const char* text, long long length) {
-    return length > 0 ? static_cast<std::size_t>(length) : std::strlen(text);
+    if (length <= 0) return std::strlen(text);
+    constexpr unsigned long long most = std::numeric_limits<std::size_t>::max();
+    return static_cast<std::size_t>(std::min(static_cast<unsigned long long>(length), most));
   }
 
   std::string text_;

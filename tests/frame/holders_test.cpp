@@ -3,8 +3,10 @@
 #include <KyDataStructure/frame.h>
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstring>
 #include <new>
+#include <stdexcept>
 #include <string>
 
 #include "support/held.h"
@@ -97,6 +99,17 @@ TEST_F(ZolString, EqualsNoNull) {
 TEST_F(ZolString, EqualsUpToTheFirstZero) {
   text->setText("ab\0cd", 5);
   EXPECT_TRUE(text->equals("ab"));
+}
+
+TEST_F(ZolString, TakesNoLengthBeyondMemoryForAShortOne) {
+  text->setText("kept", -1);
+  // Where a size has 32 bits, the first of these would be 1 without its upper half.
+  for (const long long length : {(1LL << 32) + 1, LLONG_MAX}) {
+    if (sizeof(std::size_t) == 8 && length != LLONG_MAX) continue;
+    EXPECT_THROW(text->setText("abc", length), std::length_error) << length;
+    EXPECT_THROW(text->appendText("abc", length), std::length_error) << length;
+  }
+  EXPECT_STREQ(text->text(), "kept");
 }
 
 TEST_F(ZolString, CopiesWhatItTakes) {
