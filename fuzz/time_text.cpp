@@ -11,11 +11,11 @@ namespace {
 
 // In 32 bits that wrap around.
 long long scannedTime(const char* text) {
-  int hours = 0;
-  int minutes = 0;
-  int seconds = 0;
-  static_cast<void>(std::sscanf(text, "%d:%d:%dZ", &hours, &minutes, &seconds));
-  const auto bits = [](int field) { return static_cast<std::uint32_t>(field); };
+  long long hours = 0;
+  long long minutes = 0;
+  long long seconds = 0;
+  static_cast<void>(std::sscanf(text, "%lld:%lld:%lldZ", &hours, &minutes, &seconds));
+  const auto bits = [](long long field) { return static_cast<std::uint32_t>(field); };
   return static_cast<std::int32_t>(((bits(hours) * 60 + bits(minutes)) * 60 + bits(seconds)) *
                                    1000);
 }

@@ -29,10 +29,10 @@ std::vector<std::string> everyText(const std::string& letters, std::size_t longe
 }
 
 long long scannedTime(const std::string& text) {
-  int hours = 0;
-  int minutes = 0;
-  int seconds = 0;
-  static_cast<void>(std::sscanf(text.c_str(), "%d:%d:%dZ", &hours, &minutes, &seconds));
+  long long hours = 0;
+  long long minutes = 0;
+  long long seconds = 0;
+  static_cast<void>(std::sscanf(text.c_str(), "%lld:%lld:%lldZ", &hours, &minutes, &seconds));
   // In 32 bits that wrap around.
   const std::uint64_t milliseconds = static_cast<std::uint64_t>(hours) * 3600000U +
                                      static_cast<std::uint64_t>(minutes) * 60000U +
@@ -83,8 +83,8 @@ TEST(TimeText, IsScannedForHoursMinutesAndSeconds) {
 
 TEST(TimeText, IsScannedWithAnyNumbersOf32Bits) {
   static const std::vector<std::string> numbers = {
-      "0", "1", "59", "60", "007", "+3", "-4", "596", "597", "1193", "71582788", "2147483647",
-      "-2147483648", " 5", "\t\n\v\f\r6"};
+      "0",   "1",    "59",       "60",         "007",         "+3", "-4",         "596",
+      "597", "1193", "71582788", "2147483647", "-2147483648", " 5", "\t\n\v\f\r6"};
   static const std::vector<std::string> ends = {"Z", "", " Z", "z", ":1Z", ".5Z", "ZZ", "Z "};
   Dice dice(60);
   std::vector<std::string> spans;
@@ -128,7 +128,9 @@ TEST(ScoreLabel, IsConvertedAsTheStandardConversionDoes) {
         "+2147483648", "0000000000000000000000000000012", "9223372036854775807",
         "9223372036854775808", "-9223372036854775808", "-9223372036854775809",
         "99999999999999999999999999999999999999", "2147483647.9", "2147483648x", "0x10", "1e5",
-        "\v\f\r\n 5", "\xC2\xA0""5"}) {
+        "\v\f\r\n 5",
+        "\xC2\xA0"
+        "5"}) {
     labels.push_back(number);
   }
   for (const std::string& label : labels) ASSERT_EQ(scored(label), converted(label)) << label;
