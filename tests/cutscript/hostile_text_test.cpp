@@ -142,11 +142,9 @@ std::string objects(std::size_t levels) {
   return times(levels, "{\"a\":") + "[]" + times(levels, "}");
 }
 
-constexpr std::size_t kMillion = 1000000;
-
 TEST_P(HostileText, MayBeNestedAMillionLevelsAnywhere) {
   for (auto* const nest : {arrays, objects}) {
-    const std::string deep = nest(kMillion);
+    const std::string deep = nest(kManyLevels);
     for (const std::string& text : GetParam().anywhere) {
       std::string found;
       onSmallStack([&] { found = GetParam().show(filled(text, deep)); });
@@ -157,7 +155,7 @@ TEST_P(HostileText, MayBeNestedAMillionLevelsAnywhere) {
 
 TEST_P(HostileText, IsRefusedWhenItsMillionLevelsStayOpen) {
   for (const char* const opening : {"[", "[1,{\"a\":/**/"}) {
-    const std::string deep = times(kMillion / 2, opening) + times(kMillion / 2, "[");
+    const std::string deep = times(kManyLevels / 2, opening) + times(kManyLevels / 2, "[");
     for (const std::string& text : GetParam().anywhere) {
       const std::string open = filled(text.substr(0, text.find('@') + 1), deep);
       std::string found;

@@ -200,22 +200,22 @@ TEST(JsonDocument, ReadsStringsOfEachLengthAndPlace) {
 
 TEST(JsonDocument, ReadsAMillionLevelsOnASmallStack) {
   onSmallStack([] {
-    constexpr std::size_t kLevels = 1000000;
-    const Document arrays(times(kLevels, "[") + times(kLevels, "]"));
+    const Document arrays(times(kManyLevels, "[") + times(kManyLevels, "]"));
     EXPECT_EQ(arrays.root().size(), 1u);
-    const Document objects(times(kLevels, "{\"a\":") + "7" + times(kLevels, "}"));
+    const Document objects(times(kManyLevels, "{\"a\":") + "7" + times(kManyLevels, "}"));
     Value value = objects.root();
     std::size_t levels = 0;
     for (; value.isObject(); ++levels) value = value.member("a");
-    EXPECT_EQ(levels, kLevels);
+    EXPECT_EQ(levels, kManyLevels);
     EXPECT_EQ(show(value.integer64()), "7");
     for (const char* const nest : {"[", "{\"a\":", "[{\"a\":", "[1,", "{\"a\":1,\"b\":"}) {
-      EXPECT_FALSE(Document(times(kLevels, nest)).root()) << nest;
-      EXPECT_FALSE(Document(times(kLevels, nest), Grammar::strict).root()) << nest;
+      EXPECT_FALSE(Document(times(kManyLevels, nest)).root()) << nest;
+      EXPECT_FALSE(Document(times(kManyLevels, nest), Grammar::strict).root()) << nest;
     }
-    EXPECT_FALSE(Document(times(kLevels, "[") + times(kLevels - 1, "]")).root());
-    EXPECT_FALSE(Document(times(kLevels, "[") + times(kLevels, "}")).root());
-    EXPECT_FALSE(Document(times(kLevels, "[") + times(kLevels + 1, "]"), Grammar::strict).root());
+    EXPECT_FALSE(Document(times(kManyLevels, "[") + times(kManyLevels - 1, "]")).root());
+    EXPECT_FALSE(Document(times(kManyLevels, "[") + times(kManyLevels, "}")).root());
+    EXPECT_FALSE(
+        Document(times(kManyLevels, "[") + times(kManyLevels + 1, "]"), Grammar::strict).root());
   });
 }
 

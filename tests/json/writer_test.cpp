@@ -128,12 +128,12 @@ TEST(JsonWriter, WritesMembersOfEachKind) {
 
 TEST(JsonWriter, CopiesAMillionLevelsOnASmallStack) {
   onSmallStack([] {
-    constexpr std::size_t kLevels = 1000000;
-    const std::string arrays = times(kLevels, "[") + times(kLevels, "]");
+    const std::string arrays = times(kManyLevels, "[") + times(kManyLevels, "]");
     EXPECT_TRUE(copied<CompactWriter>(arrays) == arrays);
-    const std::string objects = times(kLevels, "{\"a\":") + "null" + times(kLevels, "}");
+    const std::string objects = times(kManyLevels, "{\"a\":") + "null" + times(kManyLevels, "}");
     EXPECT_TRUE(copied<CompactWriter>(objects) == objects);
-    const std::string both = times(kLevels, "[0,{\"a\":") + "[]" + times(kLevels, "},1.50]");
+    const std::string both =
+        times(kManyLevels, "[0,{\"a\":") + "[]" + times(kManyLevels, "},1.50]");
     EXPECT_TRUE(copied<CompactWriter>(both) == both);
   });
 }

@@ -10,8 +10,8 @@
 
 TEST(DataMapText, IsReadOrRefusedWithAMillionLevels) {
   onSmallStack([] {
-    const std::string open(1000000, '[');
-    const std::string close(1000000, ']');
+    const std::string open(kManyLevels, '[');
+    const std::string close(kManyLevels, ']');
     const Held<ZOL::IImageStylizesData> data(createImageStylizesData());
     const Held<ZOL::IZolString> text(createZolString());
     text->setText((R"({"x":)" + open + close + R"(,"dataMap":{"1":"a"}})").c_str(), -1);

@@ -13,19 +13,18 @@
 
 namespace {
 
-constexpr std::size_t kLevels = 1000000;
-
 // A million levels of arrays, and of objects.
 const std::vector<std::string>& nests() {
   static const std::vector<std::string> nests = {
-      times(kLevels, "[") + times(kLevels, "]"),
-      times(kLevels, "{\"\":") + "0" + times(kLevels, "}")};
+      times(kManyLevels, "[") + times(kManyLevels, "]"),
+      times(kManyLevels, "{\"\":") + "0" + times(kManyLevels, "}")};
   return nests;
 }
 
 // The same without their ends.
 const std::vector<std::string>& unfinishedNests() {
-  static const std::vector<std::string> nests = {times(kLevels, "["), times(kLevels, "{\"\":")};
+  static const std::vector<std::string> nests = {times(kManyLevels, "["),
+                                                 times(kManyLevels, "{\"\":")};
   return nests;
 }
 
@@ -199,14 +198,15 @@ TEST(HostileNest, ThatNeverEndsIsRefused) {
 
 TEST(HostileNest, ThatIsClosedOnceTooOftenOrWronglyIsRefused) {
   onSmallStack([] {
-    EXPECT_EQ(
-        afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels - 1, "]") + "}"),
-        "1001 {}");
-    EXPECT_EQ(
-        afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels + 1, "]") + "}"),
-        "1001 {}");
-    EXPECT_EQ(afterReading("{\"id\":5,\"x\":" + times(kLevels, "[") + times(kLevels, "}") + "}"),
+    EXPECT_EQ(afterReading("{\"id\":5,\"x\":" + times(kManyLevels, "[") +
+                           times(kManyLevels - 1, "]") + "}"),
               "1001 {}");
+    EXPECT_EQ(afterReading("{\"id\":5,\"x\":" + times(kManyLevels, "[") +
+                           times(kManyLevels + 1, "]") + "}"),
+              "1001 {}");
+    EXPECT_EQ(
+        afterReading("{\"id\":5,\"x\":" + times(kManyLevels, "[") + times(kManyLevels, "}") + "}"),
+        "1001 {}");
   });
 }
 
@@ -214,14 +214,15 @@ TEST(HostileSize, OfCommentsStringsAndMembersIsRead) {
   onSmallStack([] {
     const std::string plain = "0 {rsResInfoType: 7, rsResSlug: \"a\", rsResType: 3}";
     const std::string members = "\"name\":\"a\",\"res_type\":3}";
-    EXPECT_EQ(afterReading(times(kLevels, "/**/") + "{" + members), plain);
-    EXPECT_EQ(afterReading("{" + times(kLevels, "//\n") + members), plain);
-    EXPECT_EQ(afterReading("/*" + times(kLevels, "/ * ") + "*/{" + members), plain);
-    EXPECT_EQ(afterReading("{\"x\":\"" + times(kLevels, "\\u0041\\\\") + "\"," + members), plain);
-    EXPECT_EQ(afterReading("{" + times(kLevels, "\"x\":1,") + members), plain);
-    EXPECT_EQ(afterReading("{\"x\":[" + times(kLevels, "1,") + "]," + members), plain);
-    EXPECT_EQ(afterReading("/*" + times(kLevels, "/ * ") + "{" + members), "1001 {}");
-    EXPECT_EQ(afterReading("{\"x\":\"" + times(kLevels, "\\\"") + members), "1001 {}");
+    EXPECT_EQ(afterReading(times(kManyLevels, "/**/") + "{" + members), plain);
+    EXPECT_EQ(afterReading("{" + times(kManyLevels, "//\n") + members), plain);
+    EXPECT_EQ(afterReading("/*" + times(kManyLevels, "/ * ") + "*/{" + members), plain);
+    EXPECT_EQ(afterReading("{\"x\":\"" + times(kManyLevels, "\\u0041\\\\") + "\"," + members),
+              plain);
+    EXPECT_EQ(afterReading("{" + times(kManyLevels, "\"x\":1,") + members), plain);
+    EXPECT_EQ(afterReading("{\"x\":[" + times(kManyLevels, "1,") + "]," + members), plain);
+    EXPECT_EQ(afterReading("/*" + times(kManyLevels, "/ * ") + "{" + members), "1001 {}");
+    EXPECT_EQ(afterReading("{\"x\":\"" + times(kManyLevels, "\\\"") + members), "1001 {}");
   });
 }
 

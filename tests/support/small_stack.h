@@ -11,6 +11,15 @@
 
 constexpr std::size_t kSmallStack = 256 * 1024;
 
+// How many levels a text is nested that is to break whatever recurses: a million. qemu
+// takes minutes for each of those, so that there it is what breaks the small stack with
+// no more than 8 bytes for a level.
+#if defined(KYDATASTRUCTURE_TESTS_IN_QEMU)
+constexpr std::size_t kManyLevels = 32 * 1024;
+#else
+constexpr std::size_t kManyLevels = 1000000;
+#endif
+
 // Runs `work` to its end on a thread with a stack of 256 KiB.
 template <class Work>
 void onSmallStack(Work work) {
