@@ -64,7 +64,7 @@ int main(int count, char** arguments) {
       for (const Reader reader : readers) out << unlessThrown(reader, document);
     }
   }
-  out << "==\n" << words();
+  out << "== words\n" << words();
   out.close();
   return out ? 0 : 1;
 }
