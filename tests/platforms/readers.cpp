@@ -46,7 +46,8 @@ std::string told(const Held<Info>& info) {
 std::string readDescription(const std::string& document) {
   const Held<Info> info = newInfo();
   const Held<Info> made(createZolResSerializeInfoFromBuffer(document.c_str()));
-  return line("answers", readText(info, document)) + told(info) + "factory: " + told(made);
+  const int result = readText(info, document);
+  return line("answers", result) + told(info) + "factory: " + told(made);
 }
 
 std::string readDescriptionList(const std::string& document) {
@@ -135,8 +136,8 @@ std::string readParameters(const std::string& document) {
   data->setParam(1, "old");
   std::string said = line("answers", data->readDataMap(zolString(document).get()));
   const Held<ZOL::IZolString> out(createZolString());
-  said += line("writes", data->writeDataMap(out.get())) + line("text", bytesIn(*out)) +
-          line("type", data->resourceType());
+  said += line("writes", data->writeDataMap(out.get()));
+  said += line("text", bytesIn(*out)) + line("type", data->resourceType());
   for (int id = -1; id < 10; ++id) said += line("id " + std::to_string(id), data->param(id));
   const Held<ZOL::IResourceMediaData> media(createResourceMediaData());
   said += line("answers", media->setParam(1, document.c_str()));
