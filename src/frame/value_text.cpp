@@ -3,6 +3,7 @@
 
 #include <KyDataStructure/frame.h>
 
+#include <cmath>
 #include <string>
 
 #include "frame/number_text.h"
@@ -10,14 +11,20 @@
 namespace ZOL {
 namespace {
 
+// As "%f" writes it, also where the standard library has other words for what is no number.
+std::string textOf(double number) {
+  if (std::isnan(number)) return std::signbit(number) ? "-nan" : "nan";
+  return std::to_string(number);
+}
+
 std::string textOf(ZolValue& value) {
   switch (value.type()) {
     case kBoolValue:
       return value.boolValue() ? "1" : "0";
     case kDoubleValue:
-      return std::to_string(value.doubleValue());
+      return textOf(value.doubleValue());
     case kFloatValue:
-      return std::to_string(static_cast<double>(value.floatValue()));
+      return textOf(static_cast<double>(value.floatValue()));
     case kLonglongValue:
       return std::to_string(value.longlongValue());
     case kIntValue:
