@@ -1,5 +1,6 @@
 // The heap as a test sees it. A program that has heap_watch.cpp among its sources
-// replaces operator new and operator delete, for itself and for the library.
+// replaces operator new and operator delete, or where they have their memory from, for
+// itself and for the library.
 
 #ifndef KYDATASTRUCTURE_TESTS_SUPPORT_HEAP_WATCH_H_
 #define KYDATASTRUCTURE_TESTS_SUPPORT_HEAP_WATCH_H_

@@ -5,7 +5,11 @@
 #define KYDATASTRUCTURE_TESTS_SUPPORT_SMALL_STACK_H_
 
 #include <gtest/gtest.h>
+#if defined(_WIN32)
+#include "support/windows_api.h"
+#else
 #include <pthread.h>
+#endif
 
 #include <cstddef>
 
@@ -23,6 +27,21 @@ constexpr std::size_t kManyLevels = 1000000;
 // Runs `work` to its end on a thread with a stack of 256 KiB.
 template <class Work>
 void onSmallStack(Work work) {
+#if defined(_WIN32)
+  struct Entry {
+    static DWORD WINAPI run(void* argument) {
+      (*static_cast<Work*>(argument))();
+      return 0;
+    }
+  };
+  // Without the flag the stack would begin so small and could grow.
+  const HANDLE thread = CreateThread(nullptr, kSmallStack, &Entry::run, &work,
+                                     STACK_SIZE_PARAM_IS_A_RESERVATION, nullptr);
+  ASSERT_NE(thread, nullptr);
+  const DWORD ended = WaitForSingleObject(thread, INFINITE);
+  CloseHandle(thread);
+  ASSERT_EQ(ended, WAIT_OBJECT_0);
+#else
   struct Entry {
     static void* run(void* argument) {
       (*static_cast<Work*>(argument))();
@@ -37,6 +56,7 @@ void onSmallStack(Work work) {
   pthread_attr_destroy(&attributes);
   ASSERT_EQ(result, 0);
   ASSERT_EQ(pthread_join(thread, nullptr), 0);
+#endif
 }
 
 #endif  // KYDATASTRUCTURE_TESTS_SUPPORT_SMALL_STACK_H_
