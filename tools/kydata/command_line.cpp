@@ -70,8 +70,10 @@ class CommandLine {
     addCheck();
   }
 
-  void parse(int argc, char** argv) {
-    app_.parse(argc, argv);
+  void parse(const std::vector<std::string>& arguments) {
+    std::vector<const char*> words;
+    for (const std::string& argument : arguments) words.push_back(argument.c_str());
+    app_.parse(static_cast<int>(words.size()), words.data());
     const bool hasCommand = !app_.get_subcommands().empty();
     if (hasCommand && !file_.empty()) {
       throw CLI::ExtrasError({file_ + " in front of the command"});
@@ -358,10 +360,10 @@ class CommandLine {
 
 }  // namespace
 
-int runCommandLine(int argc, char** argv) {
+int runCommandLine(const std::vector<std::string>& arguments) {
   CommandLine commandLine;
   try {
-    commandLine.parse(argc, argv);
+    commandLine.parse(arguments);
   } catch (const CLI::ParseError& error) {
     return commandLine.explain(error);
   }

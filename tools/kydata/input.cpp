@@ -10,6 +10,7 @@
 #include <memory>
 #include <system_error>
 
+#include "file_names.h"
 #include "status_line.h"
 #include "utf8.h"
 
@@ -23,7 +24,7 @@ int leaveOpen(std::FILE*) { return 0; }
 
 File open(const std::string& file) {
   if (file == "-") return File(stdin, leaveOpen);
-  File opened(std::fopen(file.c_str(), "rb"), std::fclose);
+  File opened(openFile(file, "rb"), std::fclose);
   if (!opened) throw Fault(std::string("cannot be opened: ") + std::strerror(errno));
   return opened;
 }
@@ -36,7 +37,7 @@ std::string megabytes(std::size_t bytes) { return std::to_string(bytes / kMegaby
 /// The size of a file as far as it can be known ahead; 0 where it cannot.
 std::size_t expectedSize(const std::string& file) {
   std::error_code unknown;
-  const auto size = std::filesystem::file_size(file, unknown);
+  const auto size = std::filesystem::file_size(pathOf(file), unknown);
   return unknown ? 0 : static_cast<std::size_t>(size);
 }
 

@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "file_names.h"
 #include "input.h"
 #include "status_line.h"
 #include "terminal.h"
@@ -51,7 +52,7 @@ void writeFile(Output& out, const std::string& file, const std::string& text) {
     out.text() << text;
     return;
   }
-  std::FILE* opened = std::fopen(file.c_str(), "wb");
+  std::FILE* opened = openFile(file, "wb");
   if (!opened) throw Fault(std::string("cannot be opened: ") + std::strerror(errno));
   const bool isWritten = std::fwrite(text.data(), 1, text.size(), opened) == text.size();
   const bool isClosed = std::fclose(opened) == 0;

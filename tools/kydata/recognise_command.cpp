@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "commands.h"
+#include "file_names.h"
 #include "highlight_text.h"
 #include "recognition.h"
 #include "refused_text.h"
@@ -32,7 +33,8 @@ constexpr std::array<Form, 6> kForms = {{
 
 bool isMissing(const std::string& file) {
   std::error_code ignored;
-  return std::filesystem::status(file, ignored).type() == std::filesystem::file_type::not_found;
+  return std::filesystem::status(pathOf(file), ignored).type() ==
+         std::filesystem::file_type::not_found;
 }
 
 const Form& formOf(const std::string& text) {

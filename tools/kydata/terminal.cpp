@@ -8,6 +8,7 @@
 #ifdef _WIN32
 #include <fcntl.h>
 #include <io.h>
+#include <windows.h>
 #else
 #include <unistd.h>
 #endif
@@ -16,13 +17,31 @@ namespace kydata {
 
 namespace {
 
-bool isTerminal(std::FILE* stream) {
 #ifdef _WIN32
-  return _isatty(_fileno(stream)) != 0;
-#else
-  return isatty(fileno(stream)) != 0;
-#endif
+
+/// A console, told to obey control sequences, which not every one can.
+bool isTerminal(std::FILE* stream) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr)
+  const HANDLE console = reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
+  DWORD mode = 0;
+  return GetConsoleMode(console, &mode) != 0 &&
+         SetConsoleMode(console, mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
+
+/// What a console took bytes for before the program began, which it must be given back.
+UINT consoleCodePage = 0;
+
+void takeBytesForUtf8() {
+  consoleCodePage = GetConsoleOutputCP();
+  if (consoleCodePage == 0 || SetConsoleOutputCP(CP_UTF8) == 0) return;
+  std::atexit([] { SetConsoleOutputCP(consoleCodePage); });
+}
+
+#else
+
+bool isTerminal(std::FILE* stream) { return isatty(fileno(stream)) != 0; }
+
+#endif
 
 /// A dumb terminal shows control sequences as letters.
 bool isDumb() {
@@ -34,8 +53,8 @@ bool isDumb() {
 
 void prepareStreams() {
 #ifdef _WIN32
-  _setmode(_fileno(stdin), _O_BINARY);
-  _setmode(_fileno(stdout), _O_BINARY);
+  for (std::FILE* stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+  takeBytesForUtf8();
 #endif
 #ifdef SIGPIPE
   std::signal(SIGPIPE, SIG_IGN);
