@@ -1,9 +1,20 @@
-# Compares the names that LIBRARY exports with those in the file NAMES. Called with NM.
-execute_process(
-  COMMAND ${NM} --dynamic --defined-only --demangle ${LIBRARY}
-  RESULT_VARIABLE failed
-  OUTPUT_VARIABLE symbols)
-if(failed)
+# Compares the names that LIBRARY exports with those in the file NAMES. Called with NM; for
+# a DLL with OBJDUMP and CXXFILT.
+if(OBJDUMP)
+  # The table is told between other things: number and name of each entry.
+  execute_process(
+    COMMAND ${OBJDUMP} --private-headers ${LIBRARY}
+    COMMAND sed -n "/Name Pointer\\] Table/,/^$/s/^\t\\[ *\\([0-9]*\\)\\] /\\1 E /p"
+    COMMAND ${CXXFILT}
+    RESULTS_VARIABLE failed
+    OUTPUT_VARIABLE symbols)
+else()
+  execute_process(
+    COMMAND ${NM} --dynamic --defined-only --demangle ${LIBRARY}
+    RESULTS_VARIABLE failed
+    OUTPUT_VARIABLE symbols)
+endif()
+if(NOT failed MATCHES "^0(;0)*$" OR symbols STREQUAL "")
   message(FATAL_ERROR "cannot read ${LIBRARY}")
 endif()
 
