@@ -1,6 +1,7 @@
 /* Loads the library, reads texts with it and unloads it, a hundred times, and proves by
- * the maps of the process that it is gone each time and by the heap that nothing stays. A
- * single unique symbol of the standard library would keep it: the export list hides them.
+ * the maps of the process (Windows: its modules) that it is gone each time and by the heap
+ * that nothing stays. A single unique symbol of the standard library would keep it: the
+ * export list hides them.
  *
  *   unload [--forgetful] LIBRARY TEXT...
  *
@@ -8,11 +9,16 @@
  * program, so that the only C++ in it is what the library brings. */
 
 #define _GNU_SOURCE
-#include <dlfcn.h>
 #include <malloc.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#if defined(_WIN32)
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
 
 enum { kRounds = 100, kRoundsToSettle = 10 };
 
@@ -31,6 +37,46 @@ static void require(int holds, const char* what) {
   exit(1);
 }
 
+#if defined(_WIN32)
+
+static char* fullPath(const char* path) { return _fullpath(NULL, path, 0); }
+
+static int isMapped(const char* path) { return GetModuleHandleA(path) != NULL; }
+
+static void* load(const char* path) {
+  const HMODULE library = LoadLibraryA(path);
+  if (!library) fprintf(stderr, "unload: error %lu\n", GetLastError());
+  require(library != NULL, "the library can be loaded");
+  return library;
+}
+
+static int unload(void* library) { return FreeLibrary(library) != 0; }
+
+static void find(void* library, const char* name, void* function) {
+  const FARPROC address = GetProcAddress(library, name);
+  require(address != NULL, name);
+  memcpy(function, &address, sizeof address);
+}
+
+static size_t bytesInUse(void) {
+  size_t bytes = 0;
+  _HEAPINFO block = {NULL, 0, 0};
+  int status = _heapwalk(&block);
+  for (; status == _HEAPOK; status = _heapwalk(&block)) {
+    if (block._useflag == _USEDENTRY) bytes += block._size;
+  }
+  require(status == _HEAPEND, "the heap is whole");
+  return bytes;
+}
+
+/* What the standard library keeps for itself when it is unloaded is not this library's. */
+static void keepTheStandardLibrary(void) { load("libstdc++-6.dll"); }
+
+#else
+
+/* The maps have the path without links. */
+static char* fullPath(const char* path) { return realpath(path, NULL); }
+
 static int isMapped(const char* path) {
   FILE* const maps = fopen("/proc/self/maps", "r");
   require(maps != NULL, "the maps can be read");
@@ -48,12 +94,20 @@ static void* load(const char* path) {
   return library;
 }
 
+static int unload(void* library) { return dlclose(library) == 0; }
+
 /* As POSIX has it, a pointer to an object is copied into one to a function. */
 static void find(void* library, const char* name, void* function) {
   void* const address = dlsym(library, name);
   require(address != NULL, name);
   memcpy(function, &address, sizeof address);
 }
+
+static size_t bytesInUse(void) { return mallinfo2().uordblks; }
+
+static void keepTheStandardLibrary(void) {}
+
+#endif
 
 /* Counts an object that came out, and ends it. */
 static int end(Object* object, int keep) {
@@ -82,7 +136,7 @@ static int readAll(void* library, const char* text) {
 static int oneRound(const char* path, char* const* texts, int forgetful) {
   void* const library = load(path);
   require(load(path) == library, "loading it twice gives the same library");
-  require(dlclose(library) == 0 && isMapped(path), "it stays while one still has it");
+  require(unload(library) && isMapped(path), "it stays while one still has it");
 
   Object* (*factory)(void) = NULL;
   find(library, "createZolString", &factory);
@@ -91,7 +145,7 @@ static int oneRound(const char* path, char* const* texts, int forgetful) {
   made += end(factory(), 0);
   for (; *texts; ++texts) made += readAll(library, *texts);
 
-  require(dlclose(library) == 0, "it can be unloaded");
+  require(unload(library), "it can be unloaded");
   require(!isMapped(path), "it is gone from the maps");
   return made;
 }
@@ -112,19 +166,19 @@ int main(int argc, char** argv) {
     fprintf(stderr, "usage: unload [--forgetful] LIBRARY TEXT...\n");
     return 2;
   }
-  /* The maps have the path without links. */
-  char* const path = realpath(argv[0], NULL);
+  char* const path = fullPath(argv[0]);
   require(path != NULL, "the library is there");
   for (char** text = argv + 1; *text; ++text) *text = readFile(*text);
   require(!isMapped(path), "it is not loaded yet");
+  keepTheStandardLibrary();
 
   int made = 0;
   size_t settled = 0;
   for (int i = 0; i < kRounds; ++i) {
     made = oneRound(path, argv + 1, forgetful);
-    if (i + 1 == kRoundsToSettle) settled = mallinfo2().uordblks;
+    if (i + 1 == kRoundsToSettle) settled = bytesInUse();
   }
-  const size_t at_end = mallinfo2().uordblks;
+  const size_t at_end = bytesInUse();
   printf("%d rounds of %d objects each; the heap holds %zu bytes, after round %d it held %zu\n",
          kRounds, made, at_end, kRoundsToSettle, settled);
   require(at_end == settled, "no round leaves anything behind");
