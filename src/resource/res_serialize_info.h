@@ -84,6 +84,13 @@ class ZolResSerializeInfo final
   int relatedResList(IZolResSerializeInfoList* out) override;
 
  private:
+  // MinGW's standard library leaves a mutex without an end, and what its first lock has taken
+  // from the heap would stay there.
+  struct Mutex : std::recursive_mutex {
+#if defined(_WIN32) && defined(__GTHREAD_RECURSIVE_MUTEX_INIT)
+    ~Mutex() { pthread_mutex_destroy(native_handle()); }
+#endif
+  };
   using Lock = std::lock_guard<std::recursive_mutex>;
 
   // The value by row, under the lock for the lookup.
@@ -115,7 +122,7 @@ class ZolResSerializeInfo final
   IntegerSlots<kPropCount> intProps_;
   TextSlots<kPropCount> stringProps_;
   std::string sourceText_;  // the normal-form text that was last accepted, byte for byte
-  std::recursive_mutex stateMutex_;
+  Mutex stateMutex_;
   std::atomic<std::uintptr_t> hostWord_{0};
   std::vector<Handle<ZolResSerializeInfo>> relatedRes_;
   std::atomic<bool> hasRelatedRes_{false};  // for isEmpty(), which takes no lock
