@@ -23,4 +23,14 @@ unset DISPLAY WAYLAND_DISPLAY
 export WINEPREFIX=$build/wine WINEPATH=$libraries WINEDEBUG=-all
 export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='  # which would ask for a display
 export LC_ALL=C.UTF-8  # how file names are written
+
+# Made once, by whoever comes first: wine tells what it does then.
+if [[ ! -e $WINEPREFIX/is_made ]]; then
+  (
+    flock 9
+    [[ -e $WINEPREFIX/is_made ]] || "$wine" wineboot --init >"$build/wine.log" 2>&1 9>&-
+    touch "$WINEPREFIX/is_made"
+  ) 9>"$build/wine.lock"
+fi
+
 exec "$wine" "$@"
