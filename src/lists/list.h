@@ -27,6 +27,10 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
 
  public:
   using Counted<Interface, Store, RefCnt<void>>::Counted;
+  ~List() {
+    behind_.reset();
+    giveUp(Store::items);
+  }
 
   void* queryInterface(const char* name) override {
     if (sameText(name, kListData)) return Store::items.data();
@@ -84,6 +88,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
     std::vector<Item> gone;
     gone.swap(Store::items);
     behind_.reset();
+    giveUp(gone);
     gone.clear();
     if (Store::items.capacity() == 0) gone.swap(Store::items);
     return kSuccess;
@@ -158,6 +163,13 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   static std::size_t place(long long index) { return static_cast<std::size_t>(index); }
   typename std::vector<Item>::iterator positionOf(long long index) {
     return Store::items.begin() + static_cast<std::ptrdiff_t>(index);
+  }
+
+  // First to last, which not every standard library's vector does when it ends.
+  static void giveUp(std::vector<Item>& items) {
+    if constexpr (!kPlain) {
+      for (Item& item : items) const Item gone = std::move(item);
+    }
   }
 
   // What a list inserted into itself at `index` takes, front to back. Element by
