@@ -19,7 +19,8 @@ int ParamObjectData::copyFrom(IParamObjectData* other) {
   params_.clear();
   const auto* const source = own<ParamObjectData>(other);
   if (!source) return kRefused;
-  params_ = source->params_;
+  auto copy = source->params_;  // all of them or, where memory runs out, none
+  params_.swap(copy);
   return kSuccess;
 }
 
