@@ -44,6 +44,7 @@ class CommandLine {
  public:
   CommandLine() : app_("Reads the texts of a video editor's data model and shows what they hold.") {
     app_.name("kydata");
+    app_.allow_windows_style_options(false);  // "/here/cut.json" is a file everywhere
     app_.set_version_flag("--version", "kydata " KYDATA_VERSION);
     app_.require_subcommand(0, 1);
     app_.footer(
