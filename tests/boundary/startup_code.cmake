@@ -8,14 +8,6 @@ endif()
 
 # The compiler puts functions of its own into the table: frame_dummy, and on 64-bit ARM one
 # that asks which atomic instructions the processor has.
-execute_process(
-  COMMAND ${READELF} --dynamic --wide ${LIBRARY}
-  RESULT_VARIABLE failed
-  OUTPUT_VARIABLE dynamic)
-if(failed)
-  message(FATAL_ERROR "cannot read ${LIBRARY}")
-endif()
-# The compiler puts one function of its own, frame_dummy, into the table.
 set(bytes 0)
 set(dynamic "")
 if(READELF)
