@@ -230,7 +230,9 @@ class IZolString : public IDmBaseObj {
   static constexpr const char* interfaceName = "IZolString";
 
   /// Replaces the content. A length above 0 takes that many bytes, zero bytes
-  /// among them; 0 or below takes the text up to its zero. Null is refused.
+  /// among them; 0 or below takes the text up to its zero. Null is refused. A
+  /// length that no memory could hold leaves as std::bad_alloc or
+  /// std::length_error, with the content as it was.
   virtual int setText(const char* text, long long length) = 0;
   /// The content with a zero behind it, lent until the next change; never null.
   virtual const char* text() = 0;
