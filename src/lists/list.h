@@ -28,8 +28,10 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
  public:
   using Counted<Interface, Store, RefCnt<void>>::Counted;
   ~List() {
+    std::vector<Item> gone;
+    gone.swap(Store::items);
     behind_.reset();
-    giveUp(Store::items);
+    giveUp(gone);
   }
 
   void* queryInterface(const char* name) override {
