@@ -319,14 +319,15 @@ TEST(BaseObjectList, HasLetGoOfAnElementBeforeTheElementEnds) {
 }
 
 // And may put something into it.
+class Filler final : public ZOL::IReleaseHook {
+ public:
+  Filler(ZOL::ZOLBaseObjectList* filled, ZOL::IDmBaseObj* last) : list(filled), added(last) {}
+  void onLastRelease() override { list->add(added); }
+  ZOL::ZOLBaseObjectList* const list;
+  ZOL::IDmBaseObj* const added;
+};
+
 TEST(BaseObjectList, KeepsWhatAnElementAddsWhileItIsCleared) {
-  class Filler final : public ZOL::IReleaseHook {
-   public:
-    Filler(ZOL::ZOLBaseObjectList* filled, ZOL::IDmBaseObj* last) : list(filled), added(last) {}
-    void onLastRelease() override { list->add(added); }
-    ZOL::ZOLBaseObjectList* const list;
-    ZOL::IDmBaseObj* const added;
-  };
   Held<ZOL::ZOLBaseObjectList> list(createZOLBaseObjectList());
   Held<ZOL::IZolString> last(createZolString());
   Filler filler(list.get(), last.get());
@@ -341,6 +342,19 @@ TEST(BaseObjectList, KeepsWhatAnElementAddsWhileItIsCleared) {
   EXPECT_EQ(last->refCount(), 3);
   EXPECT_EQ(list->clear(), 0);
   EXPECT_EQ(list->size(), 0);
+  EXPECT_EQ(last->refCount(), 1);
+}
+
+TEST(BaseObjectList, LetsGoOfWhatAnElementAddsWhileItEnds) {
+  Held<ZOL::ZOLBaseObjectList> list(createZOLBaseObjectList());
+  Held<ZOL::IZolString> last(createZolString());
+  Filler filler(list.get(), last.get());
+  for (int i = 0; i < 9; ++i) {
+    Held<ZOL::IZolString> text(createZolString());
+    text->setReleaseHook(&filler);
+    list->add(text.get());
+  }
+  list.reset();
   EXPECT_EQ(last->refCount(), 1);
 }
 
