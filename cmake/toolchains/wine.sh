@@ -11,8 +11,12 @@ compiler=$1
 build=$2
 shift 2
 
+# Beside wine64 lies the server as such: the command of that name lets it end with the last
+# program, whatever it is told.
 wine=/usr/lib/wine/wine64
+server=/usr/lib/wine/wineserver64
 [[ -x $wine ]] || wine=wine
+[[ -x $server ]] || server=wineserver
 
 libraries=$build/src
 for library in libstdc++-6.dll libwinpthread-1.dll; do
@@ -24,13 +28,19 @@ export WINEPREFIX=$build/wine WINEPATH=$libraries WINEDEBUG=-all
 export WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='  # which would ask for a display
 export LC_ALL=C.UTF-8  # how file names are written
 
-# Made once, by whoever comes first: wine tells what it does then.
-if [[ ! -e $WINEPREFIX/is_made ]]; then
-  (
-    flock 9
-    [[ -e $WINEPREFIX/is_made ]] || "$wine" wineboot --init >"$build/wine.log" 2>&1 9>&-
-    touch "$WINEPREFIX/is_made"
-  ) 9>"$build/wine.lock"
-fi
+# All programs share a server, which stays for a minute after the last of them. Else each
+# would have to start it with its services, and a program that comes while the server ends
+# with the one before is cut off. They are started by a program of their own, whose output
+# the services keep open as long as they live.
+(
+  flock 9
+  if ! "$server" -k0; then
+    mkdir -p "$WINEPREFIX"
+    {
+      "$server" -p60
+      "$wine" wineboot --init
+    } </dev/null >"$build/wine.log" 2>&1 9>&-
+  fi
+) 9>"$build/wine.lock"
 
 exec "$wine" "$@"
