@@ -31,8 +31,10 @@ std::string textOf(ZolValue& value) {
       return std::to_string(value.intValue());
     case kUintValue:
       return std::to_string(value.uintValue());
-    case kStringValue:
-      return value.charValue();
+    case kStringValue: {
+      const char* const text = value.charValue();  // null where its buffer was released by name
+      return text ? text : "";
+    }
     default:
       return std::string();
   }

@@ -69,6 +69,8 @@ bool ZolValue::operator==(const ZolValue& other) {
     case kUintValue:
       return value_.unsignedInteger == other.value_.unsignedInteger;
     case kStringValue:
+      // A text is null where its buffer was released by name.
+      if (!value_.text || !other.value_.text) return value_.text == other.value_.text;
       return std::strcmp(value_.text, other.value_.text) == 0;
     default:
       return false;  // on purpose also two empty values
@@ -141,9 +143,10 @@ void ZolValue::InitByType(_ValueType type, _ZolValueUnion value) {
 }
 
 void ZolValue::createAndCopyBuffer(const char* text) {
+  const std::size_t size = text ? std::strlen(text) : 0;
   // The value's own text would be gone before it is copied: it moves to the front.
-  if (buffer_ && text && liesIn(text, buffer_, std::strlen(buffer_) + 1)) {
-    std::memmove(buffer_, text, std::strlen(text) + 1);
+  if (size != 0 && buffer_ && liesIn(text, buffer_, std::strlen(buffer_))) {
+    std::memmove(buffer_, text, size + 1);
     value_.text = buffer_;
     return;
   }
@@ -151,10 +154,9 @@ void ZolValue::createAndCopyBuffer(const char* text) {
   // value that can still be read.
   releaseBuffer();
   value_.text = kEmptyText;
-  if (!text || *text == '\0') return;
-  const std::size_t size = std::strlen(text) + 1;
-  buffer_ = new char[size];
-  std::memcpy(buffer_, text, size);
+  if (size == 0) return;
+  buffer_ = new char[size + 1];
+  std::memcpy(buffer_, text, size + 1);
   value_.text = buffer_;
 }
 

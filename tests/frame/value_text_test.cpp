@@ -15,6 +15,7 @@
 #include <typeinfo>
 
 #include "support/held.h"
+#include "support/release_buffer.h"
 #include "support/show.h"
 
 namespace {
@@ -248,6 +249,15 @@ TEST(WriteValue, WritesWhatIsNoNumberAsAWord) {
 TEST(WriteValue, WritesATextAsItIs) {
   EXPECT_EQ(write(ZolValue("12abc")), "12abc");
   EXPECT_EQ(write(ZolValue("")), "");
+}
+
+TEST(WriteValue, WritesATextOfNullAsTheEmptyText) {
+  ZolValue value("gone");
+  releaseBufferOf(value);
+  Held<ZOL::IZolString> text(createZolString());
+  text->setText("old", -1);
+  EXPECT_EQ(ZOLValueToString(&value, text.get()), 0);
+  EXPECT_STREQ(text->text(), "");
 }
 
 TEST(WriteValue, WritesAnEmptyOrUnusedTypeAsTheEmptyText) {

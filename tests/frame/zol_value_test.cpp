@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "support/heap_watch.h"
+#include "support/release_buffer.h"
 #include "support/show.h"
 
 namespace {
@@ -281,6 +282,32 @@ TEST(ZolValue, SetToTheTextOfAnotherValueTakesThatText) {
   EXPECT_EQ(show(copyOfSecond), "string \"first\"");
   first.setValue(static_cast<const char*>(nullptr));
   EXPECT_EQ(show(first), "string \"\"");
+}
+
+TEST(ZolValue, SetToItsOwnTerminatingZeroGivesItsMemoryBack) {
+  const long long before = liveBlocks();
+  ZolValue value(kLongText);
+  value.setValue(value.charValue() + std::strlen(kLongText));
+  EXPECT_EQ(show(value), "string \"\"");
+  EXPECT_EQ(liveBlocks(), before);
+}
+
+TEST(ZolValue, WithoutItsBufferIsATextOfNullThatOnlyAnotherOneEquals) {
+  ZolValue value(kLongText);
+  ZolValue other(kLongText);
+  releaseBufferOf(value);
+  EXPECT_EQ(value.type(), ZOL::kStringValue);
+  EXPECT_EQ(value.charValue(), nullptr);
+  EXPECT_FALSE(value == other);
+  EXPECT_FALSE(other == value);
+  EXPECT_FALSE(value == ZolValue(""));
+  releaseBufferOf(other);
+  EXPECT_TRUE(value == other);
+  EXPECT_TRUE(value == value);
+  EXPECT_EQ(show(ZolValue(value)), "string \"\"") << "a copy has the empty text";
+  releaseBufferOf(value);  // which has none any more
+  value.setValue("new");
+  EXPECT_EQ(show(value), "string \"new\"");
 }
 
 // On purpose: the memory of the old text stays until something else gives it up.
