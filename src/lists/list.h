@@ -119,15 +119,17 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
         return kSuccess;
       }
     }
-    std::vector<Item> taken;
+    std::vector<Item> taken;  // last to first
     taken.reserve(source->items.size());
     if (source == this) {
       takeOwn(place(index), taken);
     } else {
-      for (const Item& item : source->items) taken.push_back(Store::take(Store::lend(item)));
+      for (std::size_t position = source->items.size(); position-- > 0;) {
+        taken.push_back(Store::take(Store::lend(source->items[position])));
+      }
     }
-    Store::items.insert(positionOf(index), std::make_move_iterator(taken.begin()),
-                        std::make_move_iterator(taken.end()));
+    Store::items.insert(positionOf(index), std::make_move_iterator(taken.rbegin()),
+                        std::make_move_iterator(taken.rend()));
     behind_.reset();
     return kSuccess;
   }
@@ -174,8 +176,8 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
     }
   }
 
-  // What a list inserted into itself at `index` takes, front to back. Element by
-  // element, last position first, each read sees the positions as they have moved:
+  // What a list inserted into itself at `index` takes. Element by element, last
+  // position first, each read sees the positions as they have moved:
   // in front of `index` nothing moved; from there on stand the elements inserted so
   // far, the latest first; behind them the old ones, as many places further on.
   void takeOwn(std::size_t index, std::vector<Item>& taken) {
@@ -191,9 +193,7 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
       } else {
         inserted.push_back(position - moved);
       }
-    }
-    for (std::size_t last = size; last-- > 0;) {
-      taken.push_back(Store::take(Store::lend(Store::items[inserted[last]])));
+      taken.push_back(Store::take(Store::lend(Store::items[inserted.back()])));
     }
   }
 

@@ -171,22 +171,24 @@ TEST_F(ObjectList, AssignToItselfReleasesItsElements) {
   EXPECT_EQ(show(list), "[]");
 }
 
-TEST_F(ObjectList, InsertListAtTakesAReferenceForEachElement) {
+TEST_F(ObjectList, InsertListAtTakesAReferenceForEachElementFromLastToFirst) {
   Held<ZOL::ZOLBaseObjectList> other(createZOLBaseObjectList());
-  for (ZOL::IDmBaseObj* object : {a.get(), a.get()}) other->add(object);
+  for (ZOL::IDmBaseObj* object : {a.get(), a.get(), c.get()}) other->add(object);
   other->add(nullptr);
   list->add(b.get());
   read();
   EXPECT_EQ(list->insertListAt(0, other.get()), 0);
-  EXPECT_EQ(read(), "a+ a+");
-  EXPECT_EQ(show(list), "[a, a, null, b]");
+  EXPECT_EQ(read(), "c+ a+ a+");
+  EXPECT_EQ(show(list), "[a, a, c, null, b]");
 }
 
 TEST_F(ObjectList, InsertListAtOfItselfTakesAReferenceForEachNewPosition) {
   list->add(a.get());
   list->add(b.get());
+  read();
   EXPECT_EQ(list->insertListAt(0, list.get()), 0);
   EXPECT_EQ(show(list), "[b, b, a, b]");
+  EXPECT_EQ(read(), "b+ b+");
   EXPECT_EQ(a->refCount(), 2);
   EXPECT_EQ(b->refCount(), 4);
 }

@@ -142,16 +142,17 @@ bool freedInstead(const State& before, const State& after, const State& /*finish
   return after == State{before[0], before[1], "freed: i1"};
 }
 
-// Of the elements e, f and g, those from some place on were not asked for yet; all before
-// it were taken, and, but for assign(), freed with what had taken them.
-bool freedFirst(const State& before, const State& after, const State& /*finished*/) {
+// Of the elements e, f and g, those from some place on were taken, the last one first, and
+// freed with what had taken them.
+bool freedFromTheLast(const State& before, const State& after, const State& /*finished*/) {
   if (after[0] != before[0] || after[1] != before[1]) return false;
-  for (const char* freed : {"freed:", "freed: e1", "freed: e1 f1", "freed: e1 f1 g1"}) {
+  for (const char* freed : {"freed:", "freed: g1", "freed: f1 g1", "freed: e1 f1 g1"}) {
     if (after[2] == freed) return true;
   }
   return false;
 }
 
+// The elements are taken first to last; the one that was not taken is freed, too.
 bool clearedAndBegun(const State& /*before*/, const State& after, const State& finished) {
   const State allowed[] = {{"[]", "freed: a1 b1 c1 d1"},
                            {"[]", "freed: a1 b1 c1 d1 e1"},
@@ -180,7 +181,7 @@ void addMemoryCases(std::vector<Case>& cases) {
       freedInstead));
   cases.push_back(memoryCase(
       "insertListAt", [](MemoryLists& on) { on.list->insertListAt(1, on.other.get()); },
-      freedFirst));
+      freedFromTheLast));
   cases.push_back(memoryCase(
       "assign", [](MemoryLists& on) { on.list->assign(on.other.get()); }, clearedAndBegun));
   cases.push_back(memoryCase(
