@@ -54,8 +54,12 @@ class TextWriter {
     }
   }
 
-  // Puts the finished text in the place of what `out` holds.
+  // Puts the finished text in the place of what `out` holds, which measures it.
   int giveTo(IZolString* out) { return out->setText(text_.GetString(), -1); }
+  // The same, and tells its length.
+  int giveWithLengthTo(IZolString* out) {
+    return out->setText(text_.GetString(), static_cast<long long>(text_.GetSize()));
+  }
 
  private:
   void put(const Node& node) {

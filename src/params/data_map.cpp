@@ -33,7 +33,7 @@ int ParamObjectData::writeParams(IZolString* target) {
   for (const auto& [id, text] : params_) writer.member(std::to_string(id), text);
   writer.endObject();
   writer.endObject();
-  writer.giveTo(target);
+  writer.giveWithLengthTo(target);
   return kSuccess;
 }
 

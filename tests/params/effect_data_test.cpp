@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "support/foreign_string.h"
 #include "support/held.h"
 
 namespace {
@@ -232,6 +233,18 @@ TEST(DataMapText, IsWrittenIndentedInTheOrderOfSignedIds) {
             "{\n    \"dataMap\": {\n        \"-2\": \"a \\\"quoted\\\"\\n\\\\ line\",\n"
             "        \"1\": \"b\",\n        \"3\": \"\"\n    }\n}");
   EXPECT_EQ(data->writeDataMap(nullptr), 1001);
+}
+
+// The other texts are measured by whoever takes them.
+TEST(DataMapText, IsHandedOverWithItsLength) {
+  const Held<ZOL::IImageStylizesData> data(createImageStylizesData());
+  data->setParam(1, "b");
+  const std::string written = dataMapOf(*data);
+  ForeignString target;
+  EXPECT_EQ(data->writeDataMap(&target), 0);
+  EXPECT_EQ(target.calls, "setText(" + written + ", " + std::to_string(written.size()) + ")");
+  target.result = 1001;
+  EXPECT_EQ(data->writeDataMap(&target), 0) << "whatever the target makes of it";
 }
 
 TEST(DataMapText, ComesBackEqual) {
