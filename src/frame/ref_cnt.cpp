@@ -4,7 +4,7 @@ namespace ZOL {
 
 void RefCnt<void>::end() {
   if (destroyed_.load(std::memory_order_relaxed) != 0) return;
-  destroyed_.store(1, std::memory_order_relaxed);
+  destroyed_.exchange(1);
   if (IReleaseHook* const hook = releaseHook_.load()) hook->onLastRelease();
   if (stepsIntoBatch_ != 0) {
     void* const batch = reinterpret_cast<char*>(this) - stepsIntoBatch_ * kBatchStep;
