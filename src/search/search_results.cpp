@@ -4,6 +4,8 @@
 #include <KyDataStructure/search.h>
 
 #include <map>
+#include <utility>
+#include <vector>
 
 #include "frame/counted.h"
 #include "frame/fields.h"
@@ -89,16 +91,25 @@ class ZolSmartCutSearchResult final
   int getDimensionKeys(ZOLIntList* keys) override {
     if (!keys) return kRefused;
     keys->clear();
-    for (const auto& [key, result] : dimensionResults_) keys->add(key);
+    // Apart, as a caller's own list may change the results while it is filled.
+    std::vector<int> held;
+    held.reserve(dimensionResults_.size());
+    for (const auto& [key, result] : dimensionResults_) held.push_back(key);
+    for (const int key : held) keys->add(key);
     return kSuccess;
   }
 
   int setDimensionResult(int key, IZolSmartCutSearchDimensionsResult* result) override {
-    return result ? dimensionResults_[key].set(result) : kRefused;
+    if (!result) return kRefused;
+    // Shared ahead of the look-up: a caller's own object may change the results meanwhile.
+    auto kept = Handle<IZolSmartCutSearchDimensionsResult>::share(result);
+    dimensionResults_[key].set(std::move(kept));
+    return kSuccess;
   }
 
   int removeDimensionResult(int key) override {
-    dimensionResults_.erase(key);
+    // Out of the map before it goes: what it gives back may call back.
+    const auto gone = dimensionResults_.extract(key);
     return kSuccess;
   }
 

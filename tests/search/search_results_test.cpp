@@ -6,7 +6,9 @@
 #include <cstring>
 #include <string>
 
+#include "lists/foreign_list.h"
 #include "support/callers_object.h"
+#include "support/calling_hook.h"
 #include "support/held.h"
 #include "support/show.h"
 
@@ -80,6 +82,73 @@ TEST(SearchResult, ReplacesAndRemovesResultsWithTheirReferences) {
   EXPECT_EQ(result->removeDimensionResult(3), 0);
   EXPECT_EQ(second->refCount(), 1);
   EXPECT_EQ(keysOf(*result), "[]");
+}
+
+// The one entry and one of several: neither is to be met again while it ends.
+TEST(SearchResult, HasLetGoOfAResultBeforeTheResultEnds) {
+  for (const bool alone : {true, false}) {
+    const auto result = hold(createSmartCutSearchResult());
+    const auto late = hold(createSmartCutSearchDimensionsResult());
+    CallingHook hook([&] {
+      EXPECT_EQ(result->dimensionResult(3), nullptr);
+      EXPECT_EQ(keysOf(*result), alone ? "[]" : "[1]");
+      EXPECT_EQ(result->removeDimensionResult(3), 0);
+      EXPECT_EQ(result->setDimensionResult(5, late.get()), 0);
+    });
+    if (!alone) result->setDimensionResult(1, late.get());
+    {
+      const auto ending = hold(createSmartCutSearchDimensionsResult());
+      ending->setReleaseHook(&hook);
+      result->setDimensionResult(3, ending.get());
+    }
+    EXPECT_EQ(result->removeDimensionResult(3), 0);
+    EXPECT_EQ(hook.calls, 1);
+    EXPECT_EQ(keysOf(*result), alone ? "[5]" : "[1, 5]");
+    EXPECT_EQ(result->dimensionResult(5), late.get());
+  }
+}
+
+TEST(SearchResult, GivesItsKeysToAListThatChangesTheResults) {
+  class Removing final : public ForeignList<ZOL::ZOLIntList> {
+   public:
+    explicit Removing(ZOL::IZolSmartCutSearchResult& result) : result_(result) {}
+    int add(int key) override {
+      result_.removeDimensionResult(key);
+      return ForeignList::add(key);
+    }
+
+   private:
+    ZOL::IZolSmartCutSearchResult& result_;
+  };
+  const auto result = hold(createSmartCutSearchResult());
+  const auto dimension = hold(createSmartCutSearchDimensionsResult());
+  for (int key : {1, 2, 3}) result->setDimensionResult(key, dimension.get());
+  Removing keys(*result);
+  EXPECT_EQ(result->getDimensionKeys(&keys), 0);
+  EXPECT_EQ(show(&keys), "[1, 2, 3]");
+  EXPECT_EQ(keysOf(*result), "[]");
+}
+
+TEST(SearchResult, KeepsAResultThatRemovesItWhileItIsKept) {
+  class Removing final : public CallersObject<ZOL::IZolSmartCutSearchDimensionsResult> {
+   public:
+    explicit Removing(ZOL::IZolSmartCutSearchResult& result) : result_(result) {}
+    int addRef() override {
+      result_.removeDimensionResult(4);
+      return CallersObject::addRef();
+    }
+    int dimensionValue() override { return 0; }
+    int setDimensionValue(int) override { return 0; }
+    ZOL::IZolSmartCutSearchDimensionsResultItemList* resultItemList() override { return nullptr; }
+
+   private:
+    ZOL::IZolSmartCutSearchResult& result_;
+  };
+  const auto result = hold(createSmartCutSearchResult());
+  Removing removing(*result);
+  EXPECT_EQ(result->setDimensionResult(4, &removing), 0);
+  EXPECT_EQ(result->dimensionResult(4), &removing);
+  EXPECT_EQ(result->removeDimensionResult(4), 0);
 }
 
 TEST(SearchResult, KeepsTheListOfRolesItself) {
