@@ -3,13 +3,42 @@
 namespace ZOL {
 namespace {
 
-// A list with the elements of the caller's. Made apart from the field that is to hold it,
-// which stays as it is when there is no memory for the whole.
-template <class List>
-Handle<List> copyOf(List* from, List* (*create)()) {
-  auto copy = Handle<List>::adopt(create());
-  copy->assign(from);
+// A list that a field holds is the same one from when it is first set; each time it is
+// cleared and then filled with the caller's elements. What may fail for want of memory
+// comes first, so that nothing has changed then: as a rule
+//
+//   auto list = ready(field, from);
+//   fill(*list.get(), from);
+//   field = std::move(list);
+
+// The field's list, or the one that it will hold, with room for what is to come.
+template <class Own, class List>
+Handle<Own> ready(const Handle<Own>& field, List* from) {
+  Handle<Own> list = field ? field : makeHandle<Own>();
+  list->makeRoomFor(from);
+  return list;
+}
+
+// On purpose empty afterwards if the elements are not the library's to take, or its own.
+template <class Own, class List>
+void fill(Own& list, List* from) {
+  list.clear();
+  list.assign(from);
+}
+
+// Texts want memory themselves: they are copied apart, and exchanged.
+Handle<TextList> copyFor(const Handle<TextList>& field, ZOLPCharList* from) {
+  auto copy = makeHandle<TextList>();
+  if (from != field.get()) copy->assign(from);
   return copy;
+}
+
+void exchange(Handle<TextList>& field, Handle<TextList> copy) {
+  if (field) {
+    field->elements().swap(copy->elements());
+  } else {
+    field = std::move(copy);
+  }
 }
 
 }  // namespace
@@ -27,9 +56,9 @@ int ZolSliceItem::getKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
 
 int ZolSliceItem::setKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
   if (!keys || !values || keys->size() != values->size()) return kRefused;
-  auto ownKeys = copyOf(keys, createZOLPCharList);
-  values_ = copyOf(values, createZOLPCharList);
-  keys_ = std::move(ownKeys);
+  auto ownKeys = copyFor(keys_, keys);
+  exchange(values_, copyFor(values_, values));
+  exchange(keys_, std::move(ownKeys));
   return kSuccess;
 }
 
@@ -45,7 +74,12 @@ int ZolDemensionsItem::getSliceItems(IZolSliceItemList* out) {
 }
 
 int ZolDemensionsItem::setSliceItems(IZolSliceItemList* slices) {
-  sliceItems_ = slices ? copyOf(slices, createIZolSliceItemList) : nullptr;
+  Handle<SliceList> list;
+  if (slices) {
+    list = ready(sliceItems_, slices);
+    fill(*list.get(), slices);
+  }
+  sliceItems_ = std::move(list);
   return kSuccess;
 }
 
@@ -58,15 +92,19 @@ int ZolDemensionsItem::getLabels(ZOLPCharList* out) {
 
 int ZolDemensionsItem::getLabelSliceItems(const char* label, IZolSliceItemList* out) {
   if (!label || !out || !hasLabels()) return kRefused;
+  const auto found = labelSliceItems_.find(label);  // the label may end with a slice of `out`
   out->clear();
-  const auto found = labelSliceItems_.find(label);
   if (found != labelSliceItems_.end()) out->assign(found->second.get());
   return kSuccess;
 }
 
 int ZolDemensionsItem::setLabelSliceItems(const char* label, IZolSliceItemList* slices) {
   if (!label || !slices) return kRefused;
-  takeLabelSliceItems(label, copyOf(slices, createIZolSliceItemList));
+  const auto found = labelSliceItems_.find(label);
+  const bool isNew = found == labelSliceItems_.end();
+  auto list = ready(isNew ? nullptr : found->second, slices);
+  fill(*list.get(), slices);
+  if (isNew) takeLabelSliceItems(label, std::move(list));
   return kSuccess;
 }
 
@@ -89,8 +127,11 @@ int ZolDemensionsItem::getScores(ZOLLonglongList* times, ZOLIntList* scores) {
 
 int ZolDemensionsItem::setScores(ZOLLonglongList* times, ZOLIntList* scores) {
   if (!times || !scores || times->size() != scores->size()) return kRefused;
-  auto ownTimes = copyOf(times, createZOLLonglongList);
-  takeScores(std::move(ownTimes), copyOf(scores, createZOLIntList));
+  auto ownTimes = ready(scoreTimes_, times);
+  auto ownScores = ready(scores_, scores);
+  fill(*ownTimes.get(), times);
+  fill(*ownScores.get(), scores);
+  takeScores(std::move(ownTimes), std::move(ownScores));
   return kSuccess;
 }
 
@@ -117,7 +158,11 @@ int ZolKeyMatrixInfo::getKeywords(ZOLPCharList* out) {
 }
 
 int ZolKeyMatrixInfo::setKeywords(ZOLPCharList* keywords) {
-  keywords_ = keywords ? copyOf(keywords, createZOLPCharList) : nullptr;
+  if (keywords) {
+    exchange(keywords_, copyFor(keywords_, keywords));
+  } else {
+    keywords_ = nullptr;
+  }
   return kSuccess;
 }
 

@@ -13,6 +13,7 @@
 #include "frame/fields.h"
 #include "frame/handle.h"
 #include "frame/shared_text.h"
+#include "lists/made_lists.h"
 
 namespace ZOL {
 
@@ -45,10 +46,14 @@ class ZolSliceItem final : public Counted<IZolSliceItem, IZolSliceItemInternal, 
   Plain<long long> startTime_;
   Plain<long long> endTime_;
   Plain<int> score_{100};
-  Handle<ZOLPCharList> keys_;  // null until first set, as every list below
-  Handle<ZOLPCharList> values_;  // there when the keys are
+  Handle<TextList> keys_;    // null until first set, as every list below
+  Handle<TextList> values_;  // there when the keys are
   Kept<IZolBGRData> faceImage_;
 };
+
+using SliceList = ObjectList<IZolSliceItemList>;
+using TimeList = ValueList<ZOLLonglongList>;
+using ScoreList = ValueList<ZOLIntList>;
 
 class ZolDemensionsItem final
     : public Counted<IZolDemensionsItem, IZolDemensionsItemInternal, RefCnt<void>> {
@@ -70,21 +75,21 @@ class ZolDemensionsItem final
   int setScores(ZOLLonglongList* times, ZOLIntList* scores) override;
 
   // For the reader, whose lists nobody else has: taken as they are.
-  void takeSliceItems(Handle<IZolSliceItemList> slices) { sliceItems_ = std::move(slices); }
-  void takeLabelSliceItems(const char* label, Handle<IZolSliceItemList> slices) {
+  void takeSliceItems(Handle<SliceList> slices) { sliceItems_ = std::move(slices); }
+  void takeLabelSliceItems(const char* label, Handle<SliceList> slices) {
     labelSliceItems_[label] = std::move(slices);
   }
-  void takeScores(Handle<ZOLLonglongList> times, Handle<ZOLIntList> scores) {
+  void takeScores(Handle<TimeList> times, Handle<ScoreList> scores) {
     scoreTimes_ = std::move(times);
     scores_ = std::move(scores);
   }
 
  private:
   Plain<int> dimensionType_;
-  Handle<IZolSliceItemList> sliceItems_;
-  std::map<std::string, Handle<IZolSliceItemList>> labelSliceItems_;
-  Handle<ZOLLonglongList> scoreTimes_;
-  Handle<ZOLIntList> scores_;  // there when the times are
+  Handle<SliceList> sliceItems_;
+  std::map<std::string, Handle<SliceList>> labelSliceItems_;
+  Handle<TimeList> scoreTimes_;
+  Handle<ScoreList> scores_;  // there when the times are
 };
 
 class ZolKeyMatrixInfo final
@@ -105,7 +110,7 @@ class ZolKeyMatrixInfo final
  private:
   TextTakingNull matrixName_;
   std::map<int, Handle<IZolDemensionsItem>> dimensions_;
-  Handle<ZOLPCharList> keywords_;
+  Handle<TextList> keywords_;
 };
 
 }  // namespace ZOL

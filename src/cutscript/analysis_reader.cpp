@@ -58,8 +58,6 @@ bool readSpan(Value element, Span& span) {
   return element.isString() && ZOL::readSpan(element.text(), span);
 }
 
-using SliceList = ObjectList<IZolSliceItemList>;
-
 // Makes the slices of a list, many in one piece of memory. They have a label in common,
 // or each its own.
 class SliceMaker {
@@ -124,8 +122,8 @@ Handle<SliceList> readSlices(Value spans, const char* label, int score, IZolBGRD
 // [80, 75]: samples a second apart. What is no number is no sample and takes no time.
 void readScores(Value samples, ZolDemensionsItem& item) {
   if (!samples.isArray()) return;
-  auto times = makeHandle<ValueList<ZOLLonglongList>>();
-  auto scores = makeHandle<ValueList<ZOLIntList>>();
+  auto times = makeHandle<TimeList>();
+  auto scores = makeHandle<ScoreList>();
   std::vector<int>& scored = scores->elements();
   scored.reserve(samples.size());
   int score = 0;

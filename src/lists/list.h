@@ -146,6 +146,11 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
     return kSuccess;
   }
 
+  // Then assign() wants no memory but for texts, and for what elements of a caller's do.
+  void makeRoomFor(Interface* other) {
+    if (const Store* const source = storeOf(other)) Store::items.reserve(source->items.size());
+  }
+
   // For whoever makes the list: the elements, to be filled before anybody else sees it.
   std::vector<Item>& elements() { return Store::items; }
 

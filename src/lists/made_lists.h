@@ -22,9 +22,12 @@ using ObjectList =
     List<ListInterface,
          ZOLObjectTemplateList<std::remove_pointer_t<typename ListInterface::Element>>>;
 
+using TextList = List<ZOLPCharList, ZOLStringTemplateList<const char*>>;
+
 // Compiled once, each beside its factory.
 extern template class List<ZOLIntList, ZOLTemplateList<int>>;
 extern template class List<ZOLLonglongList, ZOLTemplateList<long long>>;
+extern template class List<ZOLPCharList, ZOLStringTemplateList<const char*>>;
 extern template class List<IZolHighlightInfoList, ZOLObjectTemplateList<IZolHighlightInfo>>;
 extern template class List<IZolMusicInfoList, ZOLObjectTemplateList<IZolMusicInfo>>;
 extern template class List<IZolSliceItemList, ZOLObjectTemplateList<IZolSliceItem>>;

@@ -17,10 +17,11 @@ template class List<IZolSliceItemList, ZOLObjectTemplateList<IZolSliceItem>>;
 template class List<IZolSmartCutClipInfoList, ZOLObjectTemplateList<IZolSmartCutClipInfo>>;
 template class List<IZolStoryboardInfoList, ZOLObjectTemplateList<IZolStoryboardInfo>>;
 template class List<IZolTextInfoList, ZOLObjectTemplateList<IZolTextInfo>>;
+template class List<ZOLPCharList, ZOLStringTemplateList<const char*>>;
 
 namespace {
 
-using _ZOLPCharList = List<ZOLPCharList, ZOLStringTemplateList<const char*>>;
+using _ZOLPCharList = TextList;
 using _ZOLAutoVoidPtrList = List<ZOLAutoVoidPtrList, ZOLSharePtrTemplateList<void*>>;
 using _ZOLBaseObjectList = ObjectList<ZOLBaseObjectList>;
 using _IKyMaskInfoDataList = ObjectList<IKyMaskInfoDataList>;

@@ -8,6 +8,7 @@
 
 #include "cutscript/report_state.h"
 #include "lists/foreign_list.h"
+#include "support/calling_hook.h"
 #include "support/counted_note.h"
 #include "support/held.h"
 #include "support/show.h"
@@ -60,6 +61,17 @@ struct Record {
 using Slice = Record<ZOL::IZolSliceItem, ZOL::IZolSliceItemInternal>;
 using Dimension = Record<ZOL::IZolDemensionsItem, ZOL::IZolDemensionsItemInternal>;
 using Report = Record<ZOL::IZolKeyMatrixInfo, ZOL::IZolKeyMatrixInfoInternal>;
+
+// A caller's list that remembers what it was last told to take: the record's own list.
+template <class List>
+class Witness final : public ForeignList<List> {
+ public:
+  int assign(List* other) override {
+    seen = other;
+    return ForeignList<List>::assign(other);
+  }
+  List* seen = nullptr;
+};
 
 // What a slice gives of its names and values; the lists held something before.
 std::string keyValues(const Slice& item) {
@@ -152,6 +164,18 @@ TEST(SliceItem, GivesNothingWhenItsStoredListsDiffer) {
   EXPECT_EQ(keyValues(item), "[] []");
 }
 
+TEST(SliceItem, FillsTheSameListsAnewEachTime) {
+  const Slice item(createSliceItem());
+  item.writing->setKeyValues(textList({"a"}).get(), textList({"1"}).get());
+  Witness<ZOL::ZOLPCharList> keys;
+  Witness<ZOL::ZOLPCharList> values;
+  item->getKeyValues(&keys, &values);
+  item.writing->setKeyValues(textList({"b", "c"}).get(), textList({"2", "3"}).get());
+  EXPECT_EQ(show(keys.seen) + " " + show(values.seen), "[\"b\", \"c\"] [\"2\", \"3\"]");
+  EXPECT_EQ(item.writing->setKeyValues(keys.seen, values.seen), 0);
+  EXPECT_EQ(keyValues(item), "[] []") << "cleared before they are read";
+}
+
 TEST(SliceItem, KeepsTheFaceImage) {
   const Slice item(createSliceItem());
   const auto first = image("abc");
@@ -225,6 +249,68 @@ TEST(DemensionsItem, ReplacesAndDropsItsFlatList) {
   EXPECT_EQ(show(*item.reading), "slices []");
   EXPECT_EQ(item.writing->setSliceItems(nullptr), 0);
   EXPECT_EQ(show(*item.reading), "slices []");
+}
+
+TEST(DemensionsItem, FillsTheSameListsAnewEachTime) {
+  const Dimension item(createDemensionsItem());
+  Witness<ZOL::IZolSliceItemList> flat;
+  Witness<ZOL::IZolSliceItemList> labelled;
+  item.writing->setSliceItems(slices({"a"}).get());
+  item->getSliceItems(&flat);
+  item.writing->setLabelSliceItems("x", slices({"a"}).get());
+  item->getLabelSliceItems("x", &labelled);
+  item.writing->setSliceItems(slices({"b", "c"}).get());
+  item.writing->setLabelSliceItems("x", slices({"d"}).get());
+  EXPECT_EQ(show(*flat.seen), "[\"b\" 0..0, \"c\" 0..0]");
+  EXPECT_EQ(show(*labelled.seen), "[\"d\" 0..0]");
+  EXPECT_EQ(item.writing->setSliceItems(flat.seen), 0);
+  EXPECT_EQ(show(*flat.seen), "[]") << "cleared before it is read";
+  EXPECT_EQ(item.writing->setLabelSliceItems("x", labelled.seen), 0);
+  EXPECT_EQ(show(*labelled.seen), "[]");
+}
+
+TEST(DemensionsItem, FillsTheSameListsOfSamplesAnewEachTime) {
+  const Dimension item(createDemensionsItem());
+  ForeignList<ZOL::ZOLIntList> untaken;  // so that the samples are given
+  untaken.add(1);
+  Witness<ZOL::ZOLLonglongList> seenTimes;
+  Witness<ZOL::ZOLIntList> seenScores;
+  item.writing->setScores(times({7}).get(), &untaken);
+  item->getScores(&seenTimes, &seenScores);
+  item.writing->setScores(times({8, 9}).get(), scores({1, 2}).get());
+  EXPECT_EQ(show(seenTimes.seen) + " " + show(seenScores.seen), "[8, 9] [1, 2]");
+}
+
+TEST(DemensionsItem, GivesUpItsSlicesBeforeItTakesOthers) {
+  const Dimension item(createDemensionsItem());
+  const auto coming = slices({"new"});
+  for (const bool flat : {true, false}) {
+    const auto set = [&](ZOL::IZolSliceItemList* list) {
+      return flat ? item.writing->setSliceItems(list)
+                  : item.writing->setLabelSliceItems("x", list);
+    };
+    const int before = coming->at(0)->refCount();
+    int meanwhile = 0;
+    CallingHook hook([&] { meanwhile = coming->at(0)->refCount(); });
+    {
+      const auto going = slices({"old"});
+      going->at(0)->setReleaseHook(&hook);
+      set(going.get());
+    }
+    EXPECT_EQ(set(coming.get()), 0);
+    EXPECT_EQ(hook.calls, 1);
+    EXPECT_EQ(meanwhile, before);
+    EXPECT_EQ(coming->at(0)->refCount(), before + 1);
+  }
+}
+
+TEST(DemensionsItem, LooksALabelUpBeforeItEndsWithTheSlicesOfTheList) {
+  const Dimension item(createDemensionsItem());
+  const char* const label = "a label that is too long for any place but the heap";
+  item.writing->setLabelSliceItems(label, slices({"x1"}).get());
+  const auto out = slices({label});
+  EXPECT_EQ(item->getLabelSliceItems(out->at(0)->label(), out.get()), 0);
+  EXPECT_EQ(show(*out), "[\"x1\" 0..0]");
 }
 
 TEST(DemensionsItem, GivesItsFlatListWhateverItsLabelsHold) {
@@ -453,6 +539,17 @@ TEST(KeyMatrixInfo, CopiesTheKeywords) {
   EXPECT_EQ(report.writing->setKeywords(nullptr), 0);
   EXPECT_EQ(report->getKeywords(out.get()), 0);
   EXPECT_EQ(show(*out), "[]");
+}
+
+TEST(KeyMatrixInfo, FillsTheSameListOfKeywordsAnewEachTime) {
+  const Report report(createKeyMatrixInfo("{}"));
+  report.writing->setKeywords(textList({"a"}).get());
+  Witness<ZOL::ZOLPCharList> keywords;
+  report->getKeywords(&keywords);
+  report.writing->setKeywords(textList({"b"}).get());
+  EXPECT_EQ(show(keywords.seen), "[\"b\"]");
+  EXPECT_EQ(report.writing->setKeywords(keywords.seen), 0);
+  EXPECT_EQ(show(keywords.seen), "[]") << "cleared before it is read";
 }
 
 TEST(KeyMatrixInfo, GivesUpItsItemsWhenItEnds) {
