@@ -208,11 +208,11 @@ bool ZolResSerializeInfo::hasName() const {
          (intProps_.has(kResId) && intProps_.get(kResId) != 0);
 }
 
-// A valid one has a slug.
 bool ZolResSerializeInfo::mayBeRelated(IZolResSerializeInfo* info) {
   if (!info || !info->isValid() || !info->queryInterface("ZolResSerializeInfo")) return false;
   auto* const inside = query<IZolResSerializeInfoInternal>(info);
-  return inside && inside->intValue(resSerializeInfoPropKey::rsResIsCustom) == 0;
+  return inside && inside->intValue(resSerializeInfoPropKey::rsResIsCustom) == 0 &&
+         *inside->stringValue(resSerializeInfoPropKey::rsResSlug) != '\0';
 }
 
 ZolResSerializeInfo::UserStrings ZolResSerializeInfo::userStringsOf(IZolResSerializeInfo* info) {

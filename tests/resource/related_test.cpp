@@ -151,6 +151,25 @@ TEST(RelatedRes, RefusesADescriptionThatCannotBeAskedWhetherItIsTheUsersOwn) {
   EXPECT_EQ(slugsRelatedTo(info), "b");
 }
 
+// A valid one of the library's has a slug; one that forwards may say what it likes.
+TEST(RelatedRes, RefusesADescriptionWithoutASlug) {
+  class ValidInfo final : public StandIn {
+   public:
+    using StandIn::StandIn;
+    void* queryInterface(const char* name) override { return inner_->queryInterface(name); }
+    bool isValid() override { return true; }
+  };
+  const Held<Info> inner = newInfo();
+  inside(inner).setIntValue("rsResId", 4);
+  ValidInfo nameless(inner.get());
+  const Held<Info> info = single("a");
+  inside(info).addRelatedRes(single("b").get());
+  EXPECT_EQ(inside(info).addRelatedRes(&nameless), 1001);
+  EXPECT_EQ(nameless.writings, 0) << "refused ahead of the copy";
+  EXPECT_EQ(inside(info).removeRelatedRes(&nameless), 1001);
+  EXPECT_EQ(slugsRelatedTo(info), "b");
+}
+
 TEST(RelatedRes, HoldsACopyAndNeverTheCallersObject) {
   const Held<Info> entry = single("b");
   const Held<Info> info = single("a");
