@@ -44,7 +44,6 @@ ZOL::IZolResSerializeInfo* createZolResSerializeInfoFromCompletResInfo(const cha
 int resInfoStr2SerializeList(ZOL::ZOLPCharList* texts, ZOL::IZolResSerializeInfoList* out) {
   if (!texts || !out) return ZOL::kRefused;
   std::unordered_set<std::string> keys;
-  keys.reserve(static_cast<std::size_t>(texts->size()));
   for (long long i = 0; i < texts->size(); ++i) {
     const auto info = ZOL::Handle<ZOL::IZolResSerializeInfo>::adopt(
         createZolResSerializeInfoFromBuffer(texts->at(i)));

@@ -5,8 +5,10 @@
 #include <climits>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "lists/foreign_list.h"
 #include "resource/description.h"
 
 namespace {
@@ -110,6 +112,24 @@ TEST(TextsToDescriptions, LeaveOutWhatIsMalformedAndWhatIsThere) {
   EXPECT_EQ(written(out->at(0)),
             "{\"name\":\"a\",\"res_type\":1,\"infoType\":7,\"user_string\":{}}");
   EXPECT_EQ(out->at(0)->refCount(), 1);
+}
+
+TEST(TextsToDescriptions, AreAsManyAsTheListSaysEachTime) {
+  class Shrinking final : public ForeignList<ZOL::ZOLPCharList> {
+   public:
+    explicit Shrinking(long long first) : said_(first) {}
+    long long size() override { return std::exchange(said_, ForeignList::size()); }
+
+   private:
+    long long said_;
+  };
+  for (const long long first : {1LL << 50, -1LL}) {
+    Shrinking texts(first);
+    texts.add("{\"name\":\"a\",\"res_type\":1}");
+    const Held<InfoList> out = newInfoList();
+    EXPECT_EQ(resInfoStr2SerializeList(&texts, out.get()), 0);
+    EXPECT_EQ(slugsIn(*out), first < 0 ? "[]" : "[a]");
+  }
 }
 
 TEST(TextsToDescriptions, RefuseNull) {
