@@ -12,7 +12,8 @@
 ///   - refused: the operation answers kRefused and nothing has changed.
 ///
 /// *Results.* An operation that answers `int` without being a getter answers
-/// kSuccess or kRefused. An index of none is -1, an object of none is null.
+/// kSuccess or kRefused, but for addRef() and release(), which answer the count.
+/// An index of none is -1, an object of none is null.
 /// There are no messages, no logging and no last-error state.
 ///
 /// *Lifetimes.* A factory's result is owned. A getter lends: an object for as
@@ -177,7 +178,8 @@ class ZolValue {
       ZolValue&& other);
 
   /// Equal type and equal payload; numbers with a point compare as such, texts
-  /// byte by byte. On purpose: an empty value equals nothing, not even itself.
+  /// byte by byte. On purpose: an empty value, and one of a type that is not
+  /// used, equals nothing, not even itself.
   KYDATASTRUCTURE_API bool operator==(const ZolValue& other);
 
   /// Back to the state of `ZolValue()`.

@@ -53,7 +53,8 @@ class ListInterface : public IDmBaseObj {
   virtual int insertAt(long long index, T element) = 0;
   /// Replaces an element. On purpose: an index equal to size() is accepted. The
   /// element is then taken into the slot behind the last, where at() does not
-  /// see it; size() stays, and it goes when the list next grows, shrinks or ends.
+  /// see it; size() stays, and it goes when the list is next added to, inserted
+  /// into, removed from or cleared, also where that changes nothing, or ends.
   virtual int setAt(long long index, T element) = 0;
   /// Drops all elements from first to last and keeps the array; always kSuccess.
   virtual int clear() = 0;
@@ -78,8 +79,8 @@ class ListInterface : public IDmBaseObj {
 };
 
 // Plain records. They are copied as bytes, and their sizes are contract: they
-// cross the boundary by value. The library reads _Property, _Range and _RectF
-// alone; the callers own the meaning of the others.
+// cross the boundary by value. The library knows the fields of _Property, _Range
+// and _RectF alone; the callers own the meaning of the others.
 
 /// A point of integers.
 struct _PointN {
@@ -171,7 +172,7 @@ constexpr std::int32_t kPropertyText = 7;
 
 /// One parameter, travelling by value. Its types are not those of ZolValue.
 struct _Property {
-  std::int32_t present;  ///< 0 for no value; a writer sets 1
+  std::int32_t present;  ///< 0 for no value; the library writes 1
   std::int32_t type;     ///< kPropertyInteger or kPropertyText
   char value[1024];      ///< an integer in the first 8 bytes, or a text with its zero
 };

@@ -139,7 +139,8 @@ class IZolPluginInfo : public IDmBaseObj {
   /// Adds one effect, kept. Null is refused.
   virtual int addEffect(IZoEffectInfo* effect) = 0;
   /// Takes the texts and the number. On purpose the effects go the other way:
-  /// `other` is given this record's effects, and loses its own. Null is refused.
+  /// `other` is given this record's effects, and loses its own; so a record copied
+  /// onto itself loses them. Null is refused.
   virtual int copyFrom(IZolPluginInfo* other) = 0;
 
  protected:
@@ -190,7 +191,8 @@ class IFaceClusterInfo : public IDmBaseObj {
   /// Copies the picture into `out`. Refused for null, and while the record has
   /// no picture.
   virtual int getClusterMedia(IZolMediaData* out) = 0;
-  /// Copies the picture from `in`. Refused for null and for an empty object.
+  /// Copies the picture from `in`. Refused for null and for an object that has no
+  /// bytes, no width or no height.
   virtual int setClusterMedia(IZolMediaData* in) = 0;
   /// Takes the two numbers and the picture, if the source has one. On purpose
   /// not the rectangle: the caller copies it where it is wanted. Null is refused.
@@ -310,7 +312,7 @@ class IKyScriptClipInfo : public IDmBaseObj {
   virtual int setClipText(const char* text) = 0;
   ///@}
 
-  /// Takes both fields.
+  /// Takes both fields. A clip copied onto itself loses the content of its list.
   virtual int copyFrom(IKyScriptClipInfo* other) = 0;
 
  protected:
@@ -423,7 +425,7 @@ class IKyScriptSceneInfo : public IDmBaseObj {
   virtual int setSceneTexts4(ZOLPCharList* in) = 0;
   /// Takes every field but four. On purpose sceneText3, sceneTexts2, sceneTexts4
   /// and sceneNumber8 stay as they are. A scene copied onto itself loses the
-  /// content of its lists.
+  /// content of the lists that are taken.
   virtual int copyFrom(IKyScriptSceneInfo* other) = 0;
   // On purpose behind copyFrom, the setter first and without a result.
   virtual void setSceneNumber8(int number) = 0;

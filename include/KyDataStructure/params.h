@@ -62,8 +62,8 @@ class IParamObjectData : public IDmDeepClonableObj {
   /// Null is refused. Two classes derive a second parameter, see there.
   virtual int setParam(int id, const char* text) = 0;
   /// Replaces all parameters by those of `other`, of whatever effect class. On
-  /// purpose the old ones go first: a refused null and a copy onto itself both
-  /// leave the object empty.
+  /// purpose the old ones go first: a null and an implementation that is not the
+  /// library's, which are refused, and a copy onto itself leave the object empty.
   virtual int copyFrom(IParamObjectData* other) = 0;
   /// Always kSuccess. Removes all entries or, in the classes that say so, sets
   /// ids of their own to the empty text and leaves the others.
@@ -84,7 +84,8 @@ class IRelinkEffectData : public virtual IParamObjectData {
 
 /// Media of a resource. Id 1 is a resource description's normal form, id 2 its
 /// slug: while id 2 is empty, setParam(1, text) sets it from the description, if
-/// the text is one. copyFrom() and deepClone() derive nothing.
+/// the text is one, to the slug's first 1023 bytes. copyFrom() and deepClone()
+/// derive nothing.
 class IResourceMediaData : public virtual IParamObjectData {
  public:
   static constexpr const char* interfaceName = "IResourceMediaData";

@@ -77,8 +77,8 @@ extern KYDATASTRUCTURE_API const char* const parent_file_id;
 /// The description of one resource: properties, user strings and related
 /// descriptions.
 ///
-/// A property is an integer or a text, whichever it was last set as; a key may
-/// hold both, and getProperty() then tells the integer. Reading a text adds and
+/// A property is an integer or a text; a key may hold both, of which
+/// getProperty() tells the integer and toBuffer() writes the text. Reading a text adds and
 /// replaces, and never takes away, but for the related list.
 ///
 /// Threads: an object may be shared between threads. Texts that it lends stay
@@ -120,12 +120,13 @@ class IZolResSerializeInfo : public IDmBaseObj {
   /// null or unknown key, for a record that is not present and for any type but
   /// kPropertyInteger and kPropertyText.
   virtual int setProperty(const char* key, const _Property* value) = 0;
-  /// Reads what `other` writes, on top of what is here. Refused for null, and
-  /// when either side refuses.
+  /// Reads what `other` writes, on top of what is here. Null is refused. Answers
+  /// kRefused when either side does; what was read by then stays.
   virtual int copyFrom(IZolResSerializeInfo* other) = 0;
   /// "SLUG_res_type_T_info_type_I", with 0 for a number that is not held: equal
-  /// for descriptions of the same resource. Without a slug the last key built, at
-  /// first the empty text. Lent until the next call.
+  /// for descriptions of the same resource. The slug's first 1023 bytes and the low
+  /// 32 bits of each number count. Without a slug the last key built, at first the
+  /// empty text. Lent until the next call.
   virtual const char* uniqueKey() = 0;
   /// Lent while no one sets that key; the empty text for null and for a key
   /// without a value.
@@ -157,14 +158,14 @@ class IZolResSerializeInfoInternal {
   virtual std::uintptr_t hostData() = 0;
   /// Always kSuccess.
   virtual int setHostData(std::uintptr_t value) = 0;
-  /// Appends a private copy of `info`. Refused for null, for a description that
-  /// is not valid or not this library's, and for a user's own resource
-  /// (rsResIsCustom not 0).
+  /// Appends a private copy of `info`, made by its text. Refused for null, for a
+  /// description that is not valid or not this library's, for a user's own resource
+  /// (rsResIsCustom not 0), for one without a slug, and where the copy is not valid.
   virtual int addRelatedRes(IZolResSerializeInfo* info) = 0;
   /// Null empties the list. Otherwise every entry whose four user strings equal
   /// those of `info` goes. On purpose the slugs are not compared: a description
   /// without user strings takes all such entries. Refuses what addRelatedRes()
-  /// refuses.
+  /// refuses ahead of the copy.
   virtual int removeRelatedRes(IZolResSerializeInfo* info) = 0;
   /// Adds a copy of each entry to `out`, which is not cleared. Null is refused;
   /// a copy that fails stops with kRefused, and what was added stays.

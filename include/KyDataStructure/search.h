@@ -87,7 +87,7 @@ class IZolSmartCutSearchResult : public virtual IDmBaseObj {
   virtual int setThirdText(const char* text) = 0;
   ///@}
 
-  /// Clears `keys` and adds the keys in ascending order.
+  /// Clears `keys` and adds the keys in ascending order. Null is refused.
   virtual int getDimensionKeys(ZOLIntList* keys) = 0;
   /// Any key will do, negative ones too.
   virtual int setDimensionResult(int key, IZolSmartCutSearchDimensionsResult* result) = 0;

@@ -19,7 +19,8 @@ namespace {
 constexpr const char* kDataMap = "dataMap";
 
 // The id that a name stands for; 0 for one that does not begin with a number. Of a number
-// beyond 32 bits the low ones count, whatever the platform's `long` holds.
+// beyond 32 bits the low ones count, whatever the platform's `long` holds; of one beyond 64
+// those of the nearest that has 64.
 int idOf(const char* name) { return static_cast<int>(std::strtoll(name, nullptr, 10)); }
 
 }  // namespace
