@@ -463,8 +463,8 @@ KYDATASTRUCTURE_API int jsonBufferToStoryboardInfoList(ZOL::IZolString* buffer,
                                                        ZOL::IZolStoryboardInfoList* list);
 
 /// Writes the rows as indented JSON; a null row is passed over. Null arguments are
-/// refused. A script class is written
-/// as it stands, although the reader takes 0 to 3 alone and makes 0 of any other.
+/// refused. A script class is written as it stands, although the reader takes 0 to
+/// 3 alone and makes 0 of any other.
 KYDATASTRUCTURE_API int storyboardInfoListToJsonBuffer(ZOL::IZolStoryboardInfoList* list,
                                                        ZOL::IZolString* out);
 

@@ -182,9 +182,9 @@ class List final : public Counted<Interface, Store, RefCnt<void>> {
   }
 
   // What a list inserted into itself at `index` takes. Element by element, last
-  // position first, each read sees the positions as they have moved:
-  // in front of `index` nothing moved; from there on stand the elements inserted so
-  // far, the latest first; behind them the old ones, as many places further on.
+  // position first, each read sees the positions as they have moved: in front of
+  // `index` nothing moved; from there on stand the elements inserted so far, the
+  // latest first; behind them the old ones, as many places further on.
   void takeOwn(std::size_t index, std::vector<Item>& taken) {
     const std::size_t size = Store::items.size();
     std::vector<std::size_t> inserted;  // where each came from, in order of insertion
