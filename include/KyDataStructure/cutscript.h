@@ -29,7 +29,8 @@ class IZolHighlightInfo : public virtual IDmBaseObj {
   /// The kind of the highlight and its span in the clip.
   ///@{
   virtual int setHLType(int type) = 0;
-  /// 0 for an emotion, 1 for any other kind, as far as the library knows.
+  /// 0 for an emotion, 1 for any other kind, as far as the library knows. On
+  /// purpose: out of a cut reply it is 0 for every kind that is named by a text.
   virtual int hlType() = 0;
   virtual long long trimIn() = 0;
   virtual int setTrimIn(long long trimIn) = 0;
@@ -149,6 +150,7 @@ class IZolTextInfo : public virtual IDmBaseObj {
   ///@{
   virtual long long start() = 0;
   virtual long long end() = 0;
+  /// On purpose: always empty out of a cut reply.
   virtual const char* text() = 0;
   /// True exactly when there is a b-roll file name.
   virtual bool hasBroll() = 0;
