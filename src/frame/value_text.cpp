@@ -31,10 +31,8 @@ std::string textOf(ZolValue& value) {
       return std::to_string(value.intValue());
     case kUintValue:
       return std::to_string(value.uintValue());
-    case kStringValue: {
-      const char* const text = value.charValue();  // null where its buffer was released by name
-      return text ? text : "";
-    }
+    case kStringValue:  // the text is null where its buffer was released by name
+      return value.charValue() ? value.charValue() : "";
     default:
       return std::string();
   }
