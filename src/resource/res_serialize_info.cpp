@@ -210,9 +210,9 @@ bool ZolResSerializeInfo::hasName() const {
 
 bool ZolResSerializeInfo::mayBeRelated(IZolResSerializeInfo* info) {
   if (!info || !info->isValid() || !info->queryInterface("ZolResSerializeInfo")) return false;
-  auto* const inside = query<IZolResSerializeInfoInternal>(info);
-  return inside && inside->intValue(resSerializeInfoPropKey::rsResIsCustom) == 0 &&
-         *inside->stringValue(resSerializeInfoPropKey::rsResSlug) != '\0';
+  // Of one that forwards, that behind it: what is asked here is looked at behind its lock.
+  auto* const ours = own<ZolResSerializeInfo>(query<IZolResSerializeInfoInternal>(info));
+  return ours && ours->intValue(kResIsCustom) == 0 && ours->holdsText(kResSlug);
 }
 
 ZolResSerializeInfo::UserStrings ZolResSerializeInfo::userStringsOf(IZolResSerializeInfo* info) {
