@@ -26,10 +26,12 @@ void fill(Own& list, List* from) {
   list.assign(from);
 }
 
-// Texts want memory themselves: they are copied apart, and exchanged.
-Handle<TextList> copyFor(const Handle<TextList>& field, ZOLPCharList* from) {
+// Texts want memory themselves: they are copied apart, and exchanged. On purpose none of a
+// list that would be cleared before it is read.
+template <class... Fields>
+Handle<TextList> copyUnlessOf(ZOLPCharList* from, const Fields&... fields) {
   auto copy = makeHandle<TextList>();
-  if (from != field.get()) copy->assign(from);
+  if (((from != fields.get()) && ...)) copy->assign(from);
   return copy;
 }
 
@@ -56,8 +58,8 @@ int ZolSliceItem::getKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
 
 int ZolSliceItem::setKeyValues(ZOLPCharList* keys, ZOLPCharList* values) {
   if (!keys || !values || keys->size() != values->size()) return kRefused;
-  auto ownKeys = copyFor(keys_, keys);
-  exchange(values_, copyFor(values_, values));
+  auto ownKeys = copyUnlessOf(keys, keys_, values_);
+  exchange(values_, copyUnlessOf(values, keys_, values_));
   exchange(keys_, std::move(ownKeys));
   return kSuccess;
 }
@@ -92,8 +94,9 @@ int ZolDemensionsItem::getLabels(ZOLPCharList* out) {
 
 int ZolDemensionsItem::getLabelSliceItems(const char* label, IZolSliceItemList* out) {
   if (!label || !out || !hasLabels()) return kRefused;
-  const auto found = labelSliceItems_.find(label);  // the label may end with a slice of `out`
+  const std::string wanted = label;  // which may end with a slice of `out`
   out->clear();
+  const auto found = labelSliceItems_.find(wanted);
   if (found != labelSliceItems_.end()) out->assign(found->second.get());
   return kSuccess;
 }
@@ -159,7 +162,7 @@ int ZolKeyMatrixInfo::getKeywords(ZOLPCharList* out) {
 
 int ZolKeyMatrixInfo::setKeywords(ZOLPCharList* keywords) {
   if (keywords) {
-    exchange(keywords_, copyFor(keywords_, keywords));
+    exchange(keywords_, copyUnlessOf(keywords, keywords_));
   } else {
     keywords_ = nullptr;
   }

@@ -172,8 +172,33 @@ TEST(SliceItem, FillsTheSameListsAnewEachTime) {
   item->getKeyValues(&keys, &values);
   item.writing->setKeyValues(textList({"b", "c"}).get(), textList({"2", "3"}).get());
   EXPECT_EQ(show(keys.seen) + " " + show(values.seen), "[\"b\", \"c\"] [\"2\", \"3\"]");
-  EXPECT_EQ(item.writing->setKeyValues(keys.seen, values.seen), 0);
-  EXPECT_EQ(keyValues(item), "[] []") << "cleared before they are read";
+}
+
+// The lists are cleared before they are read.
+TEST(SliceItem, IsLeftWithoutNamesAndValuesWhenItIsSetToItsOwnLists) {
+  const auto other = textList({"x", "y"});
+  // Which of the item's own lists, or neither, is handed in as names and as values.
+  const struct {
+    char keys, values;
+    const char* left;
+  } cases[] = {{'k', 'v', "[] []"},
+               {'v', 'k', "[] []"},
+               {'k', 'k', "[] []"},
+               {'v', 'v', "[] []"},
+               {'v', '-', "[] [\"x\", \"y\"]"},
+               {'-', 'k', "[\"x\", \"y\"] []"}};
+  for (const auto& each : cases) {
+    const Slice item(createSliceItem());
+    item.writing->setKeyValues(textList({"a", "b"}).get(), textList({"1", "2"}).get());
+    Witness<ZOL::ZOLPCharList> keys;
+    Witness<ZOL::ZOLPCharList> values;
+    item->getKeyValues(&keys, &values);
+    const auto handedIn = [&](char list) {
+      return list == 'k' ? keys.seen : list == 'v' ? values.seen : other.get();
+    };
+    EXPECT_EQ(item.writing->setKeyValues(handedIn(each.keys), handedIn(each.values)), 0);
+    EXPECT_EQ(show(keys.seen) + " " + show(values.seen), each.left) << each.keys << each.values;
+  }
 }
 
 TEST(SliceItem, KeepsTheFaceImage) {
