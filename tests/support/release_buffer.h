@@ -9,11 +9,4 @@
 // The text of `value` is null afterwards, and its type stays.
 void releaseBufferOf(ZOL::ZolValue& value);
 
-// An explicit instantiation may name what is private.
-template <void (ZOL::ZolValue::*operation)()>
-struct Opened {
-  friend void releaseBufferOf(ZOL::ZolValue& value) { (value.*operation)(); }
-};
-template struct Opened<&ZOL::ZolValue::releaseBuffer>;
-
 #endif  // KYDATASTRUCTURE_TESTS_SUPPORT_RELEASE_BUFFER_H_
