@@ -13,5 +13,5 @@ endif()
 # What a test sets in its environment for the sanitizers.
 set(KYDATASTRUCTURE_TEST_ENVIRONMENT
     "ASAN_OPTIONS=detect_stack_use_after_return=1"
-    "UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1:suppressions=${PROJECT_SOURCE_DIR}/cmake/ubsan.supp"
+    "UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1:suppressions='${PROJECT_SOURCE_DIR}/cmake/ubsan.supp'"
     "TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1")

@@ -36,10 +36,11 @@ export LC_ALL=C.UTF-8  # how file names are written
   flock 9
   if ! "$server" -k0; then
     mkdir -p "$WINEPREFIX"
-    {
-      "$server" -p60
-      "$wine" wineboot --init
-    } </dev/null >"$build/wine.log" 2>&1 9>&-
+    { "$server" -p60 && "$wine" wineboot --init; } </dev/null >"$build/wine.log" 2>&1 9>&- || {
+      cat "$build/wine.log" >&2
+      "$server" -k || true  # so that whoever comes next begins anew
+      exit 1
+    }
   fi
 ) 9>"$build/wine.lock"
 
