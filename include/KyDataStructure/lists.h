@@ -53,8 +53,8 @@ class ListInterface : public IDmBaseObj {
   virtual int insertAt(long long index, T element) = 0;
   /// Replaces an element. On purpose: an index equal to size() is accepted. The
   /// element is then taken into the slot behind the last, where at() does not
-  /// see it; size() stays, and it goes when the list is next added to, inserted
-  /// into, removed from or cleared, also where that changes nothing, or ends.
+  /// see it; size() stays. It goes when another is set there, when the list next
+  /// takes an addition, insertion, removal, clear() or assign(), or when it ends.
   virtual int setAt(long long index, T element) = 0;
   /// Drops all elements from first to last and keeps the array; always kSuccess.
   virtual int clear() = 0;

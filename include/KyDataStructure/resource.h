@@ -78,8 +78,9 @@ extern KYDATASTRUCTURE_API const char* const parent_file_id;
 /// descriptions.
 ///
 /// A property is an integer or a text; a key may hold both, of which
-/// getProperty() tells the integer and toBuffer() writes the text. Reading a text
-/// adds and replaces, and never takes away, but for the related list.
+/// getProperty() tells the integer, and toBuffer() writes the text if the member
+/// stands outside the groups. Reading a text adds and replaces, and never takes
+/// away, but for the related list.
 ///
 /// Threads: an object may be shared between threads. Texts that it lends stay
 /// valid only while no thread sets that key; uniqueKey() is for one thread at a
