@@ -7,6 +7,7 @@
 
 #include <string>
 
+#include "support/calling_hook.h"
 #include "support/counted_note.h"
 #include "support/held.h"
 #include "support/show.h"
@@ -300,15 +301,9 @@ TEST(GpuInfoList, CountsTheObjectsOfItsCallers) {
 
 // An element may look at its list while it goes.
 TEST(BaseObjectList, HasLetGoOfAnElementBeforeTheElementEnds) {
-  class Watcher final : public ZOL::IReleaseHook {
-   public:
-    explicit Watcher(ZOL::ZOLBaseObjectList* watched) : list(watched) {}
-    void onLastRelease() override { sizes += show(list->size()) + ' '; }
-    ZOL::ZOLBaseObjectList* const list;
-    std::string sizes;
-  };
   Held<ZOL::ZOLBaseObjectList> list(createZOLBaseObjectList());
-  Watcher watcher(list.get());
+  std::string sizes;
+  CallingHook watcher([&] { sizes += show(list->size()) + ' '; });
   for (int i = 0; i < 4; ++i) {
     Held<ZOL::IZolString> text(createZolString());
     text->setReleaseHook(&watcher);
@@ -317,22 +312,14 @@ TEST(BaseObjectList, HasLetGoOfAnElementBeforeTheElementEnds) {
   list->removeAt(0);
   list->setAt(0, nullptr);
   list->clear();
-  EXPECT_EQ(watcher.sizes, "3 3 0 0 ");
+  EXPECT_EQ(sizes, "3 3 0 0 ");
 }
 
 // And may put something into it.
-class Filler final : public ZOL::IReleaseHook {
- public:
-  Filler(ZOL::ZOLBaseObjectList* filled, ZOL::IDmBaseObj* last) : list(filled), added(last) {}
-  void onLastRelease() override { list->add(added); }
-  ZOL::ZOLBaseObjectList* const list;
-  ZOL::IDmBaseObj* const added;
-};
-
 TEST(BaseObjectList, KeepsWhatAnElementAddsWhileItIsCleared) {
   Held<ZOL::ZOLBaseObjectList> list(createZOLBaseObjectList());
   Held<ZOL::IZolString> last(createZolString());
-  Filler filler(list.get(), last.get());
+  CallingHook filler([filled = list.get(), added = last.get()] { filled->add(added); });
   for (int i = 0; i < 2; ++i) {
     Held<ZOL::IZolString> text(createZolString());
     text->setReleaseHook(&filler);
@@ -350,7 +337,7 @@ TEST(BaseObjectList, KeepsWhatAnElementAddsWhileItIsCleared) {
 TEST(BaseObjectList, LetsGoOfWhatAnElementAddsWhileItEnds) {
   Held<ZOL::ZOLBaseObjectList> list(createZOLBaseObjectList());
   Held<ZOL::IZolString> last(createZolString());
-  Filler filler(list.get(), last.get());
+  CallingHook filler([filled = list.get(), added = last.get()] { filled->add(added); });
   for (int i = 0; i < 9; ++i) {
     Held<ZOL::IZolString> text(createZolString());
     text->setReleaseHook(&filler);
